@@ -1,0 +1,37 @@
+# Everyday commands; each one sets the machine up first (scripts/bootstrap.sh is quick when all is present).
+JOBS ?= $(shell nproc)
+EXAMPLE ?= examples/first_script.lua
+
+.PHONY: all bootstrap build test test-versions example bench clean
+
+all: build
+
+bootstrap:
+	@scripts/bootstrap.sh
+
+build: bootstrap
+	@cmake --preset default >/dev/null
+	@cmake --build --preset default -j $(JOBS)
+
+# Every test (unit, Lua scenarios, the module's automation tests) under ASan+UBSan, for UE 5.7.
+test: build
+	@ctest --preset default -j $(JOBS)
+
+# The same for the 5.5 and 5.8 builds, so that every version gate is exercised both ways.
+test-versions: test
+	@for preset in ue55 ue58; do \
+		cmake --preset $$preset >/dev/null && cmake --build --preset $$preset -j $(JOBS) && \
+		ctest --preset $$preset -j $(JOBS) || exit 1; \
+	done
+
+# Runs an example script on a fresh copy of the sample project.
+example: build
+	@build/default/bin/vlmr run $(EXAMPLE)
+
+bench: bootstrap
+	@cmake --preset release >/dev/null
+	@cmake --build --preset release -j $(JOBS)
+	@for b in build/release/bin/bench_*; do [ -x "$$b" ] && "$$b" || true; done
+
+clean:
+	@rm -rf build/default build/ue55 build/ue58 build/release
