@@ -1,0 +1,89 @@
+#include "PersistenceTestTypes.h"
+
+#include "UObject/GCObject.h"
+#include "UObject/UnrealType.h"
+
+VLMR_IMPLEMENT_STRUCT(FPersistenceTestStruct, "PersistenceTests")
+{
+	VLMR_PROPERTY(Value, CPF_Edit);
+	VLMR_PROPERTY(Reference, CPF_Edit);
+}
+
+VLMR_IMPLEMENT_CLASS(UPersistenceTestObject, CLASS_None, "PersistenceTests")
+{
+	VLMR_PROPERTY(Number, CPF_Edit);
+	VLMR_PROPERTY(Text, CPF_Edit);
+	VLMR_PROPERTY(Ratio, CPF_Edit);
+	VLMR_PROPERTY(bFlag, CPF_Edit);
+	VLMR_PROPERTY(Numbers, CPF_Edit);
+	VLMR_PROPERTY(Reference, CPF_Edit);
+	VLMR_PROPERTY(ReferenceArray, CPF_Edit);
+	VLMR_PROPERTY(ReferenceMap, CPF_Edit);
+	VLMR_PROPERTY(Struct, CPF_Edit);
+	VLMR_PROPERTY(WeakReference, CPF_Edit);
+	VLMR_PROPERTY(SoftPath, CPF_Edit);
+	VLMR_PROPERTY(SoftReference, CPF_Edit);
+	VLMR_PROPERTY(TransientNumber, CPF_Transient);
+}
+
+VLMR_IMPLEMENT_CLASS(UPersistenceTestOwner, CLASS_None, "PersistenceTests")
+{
+	VLMR_PROPERTY(Inner, CPF_Edit | CPF_InstancedReference);
+}
+
+UPersistenceTestOwner::UPersistenceTestOwner()
+{
+	Inner = CreateDefaultSubobject<UPersistenceTestObject>(TEXT("Inner"));
+}
+
+VLMR_IMPLEMENT_CLASS(UPersistenceTestTracked, CLASS_None, "PersistenceTests")
+{
+}
+
+int32 UPersistenceTestTracked::NumBeginDestroy = 0;
+int32 UPersistenceTestTracked::NumFinishDestroy = 0;
+int32 UPersistenceTestTracked::NumDestructed = 0;
+TFunction<void(UObject*)> UPersistenceTestTracked::OnBeginDestroy;
+
+UPersistenceTestTracked::~UPersistenceTestTracked()
+{
+	++NumDestructed;
+}
+
+void UPersistenceTestTracked::BeginDestroy()
+{
+	++NumBeginDestroy;
+	if (OnBeginDestroy)
+	{
+		OnBeginDestroy(this);
+	}
+	Super::BeginDestroy();
+}
+
+void UPersistenceTestTracked::FinishDestroy()
+{
+	++NumFinishDestroy;
+	Super::FinishDestroy();
+}
+
+void UPersistenceTestTracked::PostLoad()
+{
+	Super::PostLoad();
+	++PostLoadCount;
+}
+
+void UPersistenceTestTracked::ResetCounters()
+{
+	NumBeginDestroy = 0;
+	NumFinishDestroy = 0;
+	NumDestructed = 0;
+}
+
+VLMR_IMPLEMENT_CLASS(UPersistenceTestNativeHolder, CLASS_None, "PersistenceTests")
+{
+}
+
+void UPersistenceTestNativeHolder::AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector)
+{
+	Collector.AddReferencedObject(static_cast<UPersistenceTestNativeHolder*>(InThis)->Held);
+}
