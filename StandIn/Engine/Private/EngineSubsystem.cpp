@@ -1,0 +1,8 @@
+#include "Subsystems/EngineSubsystem.h"
+#include "UObject/UnrealType.h"
+
+UEngineSubsystem::UEngineSubsystem() = default;
+
+VLMR_IMPLEMENT_CLASS(UEngineSubsystem, CLASS_Abstract, "Engine")
+{
+}

@@ -1,0 +1,8 @@
+#include "GameFramework/Info.h"
+#include "UObject/UnrealType.h"
+
+AInfo::AInfo() = default;
+
+VLMR_IMPLEMENT_CLASS(AInfo, CLASS_Abstract, "Engine")
+{
+}

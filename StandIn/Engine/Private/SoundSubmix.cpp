@@ -1,0 +1,20 @@
+#include "Sound/SoundSubmix.h"
+#include "UObject/UnrealType.h"
+
+USoundSubmixBase::USoundSubmixBase() = default;
+
+VLMR_IMPLEMENT_CLASS(USoundSubmixBase, CLASS_Abstract, "Engine")
+{
+}
+
+USoundSubmixWithParentBase::USoundSubmixWithParentBase() = default;
+
+VLMR_IMPLEMENT_CLASS(USoundSubmixWithParentBase, CLASS_Abstract, "Engine")
+{
+}
+
+USoundSubmix::USoundSubmix() = default;
+
+VLMR_IMPLEMENT_CLASS(USoundSubmix, CLASS_None, "Engine")
+{
+}

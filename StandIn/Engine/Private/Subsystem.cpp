@@ -1,0 +1,14 @@
+#include "Subsystems/Subsystem.h"
+#include "UObject/UnrealType.h"
+
+USubsystem::USubsystem() = default;
+
+VLMR_IMPLEMENT_CLASS(USubsystem, CLASS_Abstract, "Engine")
+{
+}
+
+UDynamicSubsystem::UDynamicSubsystem() = default;
+
+VLMR_IMPLEMENT_CLASS(UDynamicSubsystem, CLASS_Abstract, "Engine")
+{
+}

@@ -1,0 +1,7 @@
+#include "TransactingState.h"
+
+bool& UE::UnrealEd::Private::IsTransactingFlag()
+{
+	static bool bIsTransacting = false;
+	return bIsTransacting;
+}

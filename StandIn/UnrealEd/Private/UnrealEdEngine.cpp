@@ -1,0 +1,11 @@
+#include "Editor/UnrealEdEngine.h"
+#include "UnrealEdGlobals.h"
+#include "UObject/UnrealType.h"
+
+UUnrealEdEngine* GUnrealEd = nullptr;
+
+UUnrealEdEngine::UUnrealEdEngine() = default;
+
+VLMR_IMPLEMENT_CLASS(UUnrealEdEngine, CLASS_Transient, "UnrealEd")
+{
+}
