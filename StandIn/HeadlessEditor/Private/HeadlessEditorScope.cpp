@@ -1,0 +1,78 @@
+#include "HeadlessEditorScope.h"
+
+#include "Editor/StandInEditorStartup.h"
+#include "Misc/Paths.h"
+#include "Modules/ModuleManager.h"
+#include "ProjectFolder.h"
+
+namespace UE::Vlmr
+{
+	namespace
+	{
+		void StartLinkedModules()
+		{
+			FModuleManager& ModuleManager = FModuleManager::Get();
+			for (const FName& ModuleName : ModuleManager.GetStaticallyLinkedModuleNames())
+			{
+				ModuleManager.LoadModule(ModuleName);
+			}
+		}
+	}
+
+	const TCHAR* GetEditorMapPackageName()
+	{
+		return TEXT("/Game/Maps/Main");
+	}
+
+	FHeadlessEditorScope::FHeadlessEditorScope(const FString& ProjectDir)
+	{
+		if (!OpenProject(ProjectDir))
+		{
+			return;
+		}
+		if (!UE::UnrealEd::StandIn::StartEditor(GetEditorMapPackageName()))
+		{
+			Error = TEXT("the editor did not start");
+			return;
+		}
+		bEditorStarted = true;
+		StartLinkedModules();
+	}
+
+	FHeadlessEditorScope::~FHeadlessEditorScope()
+	{
+		if (bEditorStarted)
+		{
+			FModuleManager::Get().UnloadModulesAtShutdown();
+			UE::UnrealEd::StandIn::StopEditor();
+		}
+		TemporaryProject.Reset();
+	}
+
+	bool FHeadlessEditorScope::OpenProject(const FString& ProjectDir)
+	{
+		FString Dir = ProjectDir;
+		if (Dir.IsEmpty())
+		{
+			TemporaryProject = MakeUnique<FTemporaryProjectCopy>();
+			if (!TemporaryProject->IsValid())
+			{
+				Error = TemporaryProject->GetError();
+				return false;
+			}
+			Dir = TemporaryProject->GetProjectDir();
+		}
+		Dir = FPaths::ConvertRelativePathToFull(Dir);
+		if (!FPaths::DirectoryExists(Dir))
+		{
+			Error = FString::Printf(TEXT("no project folder %s"), *Dir);
+			return false;
+		}
+		if (!Dir.EndsWith(TEXT("/")))
+		{
+			Dir += TEXT("/");
+		}
+		FPaths::SetProjectDir(Dir);
+		return true;
+	}
+}

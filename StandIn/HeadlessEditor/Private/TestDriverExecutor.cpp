@@ -1,0 +1,21 @@
+#include "TestDriverExecutor.h"
+
+#include "UObject/UnrealType.h"
+
+UVlmrTestDriverExecutor::UVlmrTestDriverExecutor()
+	: bRendering(false)
+{
+}
+
+void UVlmrTestDriverExecutor::Finish()
+{
+	if (bRendering)
+	{
+		bRendering = false;
+		OnExecutorFinishedImpl();
+	}
+}
+
+VLMR_IMPLEMENT_CLASS(UVlmrTestDriverExecutor, CLASS_None, "HeadlessEditor")
+{
+}
