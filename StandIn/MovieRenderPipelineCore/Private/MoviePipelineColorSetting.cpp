@@ -1,0 +1,20 @@
+#include "MoviePipelineColorSetting.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineColorSetting::UMoviePipelineColorSetting()
+	: bDisableToneCurve(false)
+{
+}
+
+#if WITH_EDITOR
+FText UMoviePipelineColorSetting::GetDisplayText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "ColorSetting", "Color Output");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineColorSetting, CLASS_None, "MovieRenderPipelineCore")
+{
+	VLMR_PROPERTY(bDisableToneCurve, CPF_Edit | CPF_BlueprintVisible | CPF_AdvancedDisplay);
+}

@@ -1,0 +1,9 @@
+#include "MoviePipelineDeprecatedSetting.h"
+
+#include "UObject/UnrealType.h"
+
+UDEPRECATED_MoviePipelineStandInLegacySetting::UDEPRECATED_MoviePipelineStandInLegacySetting() = default;
+
+VLMR_IMPLEMENT_CLASS(UDEPRECATED_MoviePipelineStandInLegacySetting, CLASS_Deprecated, "MovieRenderPipelineCore")
+{
+}

@@ -1,0 +1,248 @@
+#include "MoviePipelineQueue.h"
+
+#include "Graph/MovieGraphConfig.h"
+#include "LevelSequence.h"
+#include "MovieJobVariableAssignmentContainer.h"
+#include "MoviePipelineBlueprintLibrary.h"
+#include "Templates/Casts.h"
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+#include "UObject/UObjectGlobals.h"
+
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+VLMR_IMPLEMENT_ENUM(EMoviePipelineConfigMode, "MovieRenderPipelineCore", Preset, Graph, Basic)
+#endif
+
+UMoviePipelineExecutorJob::UMoviePipelineExecutorJob()
+	: StatusProgress(0.0f)
+	, bIsConsumed(false)
+	, bEnabled(true)
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	, ConfigMode(EMoviePipelineConfigMode::Preset)
+	, bHasInitializedLegacyPresetDefaults(false)
+#endif
+{
+	Configuration = CreateDefaultSubobject<UMoviePipelinePrimaryConfig>(TEXT("DefaultConfig"));
+}
+
+#if WITH_EDITOR
+void UMoviePipelineExecutorJob::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+	if (PropertyChangedEvent.GetPropertyName() == FName(TEXT("Sequence")))
+	{
+		SetSequence(Sequence);
+	}
+}
+#endif
+
+void UMoviePipelineExecutorJob::SetIsEnabled_Implementation(const bool bInEnabled)
+{
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	Modify();
+#endif
+	bEnabled = bInEnabled;
+}
+
+void UMoviePipelineExecutorJob::OnDuplicated_Implementation()
+{
+	UserData = FString();
+	StatusMessage = FString();
+	StatusProgress = 0.0f;
+	SetConsumed(false);
+}
+
+void UMoviePipelineExecutorJob::SetPresetOrigin(UMoviePipelinePrimaryConfig* InPreset)
+{
+	if (!InPreset || !Configuration)
+	{
+		return;
+	}
+	Configuration->CopyFrom(InPreset);
+	PresetOrigin = InPreset;
+}
+
+void UMoviePipelineExecutorJob::SetConfiguration(UMoviePipelinePrimaryConfig* InPreset)
+{
+	if (!InPreset || !Configuration)
+	{
+		return;
+	}
+	Configuration->CopyFrom(InPreset);
+	PresetOrigin.Reset();
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	ConfigMode = EMoviePipelineConfigMode::Preset;
+#endif
+}
+
+UMovieGraphConfig* UMoviePipelineExecutorJob::GetGraphPreset() const
+{
+	return GraphPreset.LoadSynchronous();
+}
+
+void UMoviePipelineExecutorJob::SetGraphPreset(const UMovieGraphConfig* InGraphPreset, const bool bUpdateVariableAssignments)
+{
+	Modify();
+	GraphPreset = InGraphPreset;
+	if (!InGraphPreset)
+	{
+		for (UMoviePipelineExecutorShot* Shot : ShotInfo)
+		{
+			if (Shot)
+			{
+				Shot->SetGraphPreset(nullptr, bUpdateVariableAssignments);
+			}
+		}
+	}
+	if (bUpdateVariableAssignments)
+	{
+		RefreshAllVariableAssignments();
+	}
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	// Stand-in choice: a graph switches the job to graph mode, clearing it returns the job to its preset.
+	ConfigMode = InGraphPreset ? EMoviePipelineConfigMode::Graph : EMoviePipelineConfigMode::Preset;
+#endif
+}
+
+bool UMoviePipelineExecutorJob::IsUsingGraphConfiguration() const
+{
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	return ConfigMode == EMoviePipelineConfigMode::Graph;
+#else
+	return !GraphPreset.IsNull();
+#endif
+}
+
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+void UMoviePipelineExecutorJob::SetConfigMode(const EMoviePipelineConfigMode InConfigMode)
+{
+	Modify();
+	ConfigMode = InConfigMode;
+}
+#endif
+
+void UMoviePipelineExecutorJob::SetSequence(FSoftObjectPath InSequence)
+{
+	Sequence = InSequence;
+	ShotInfo.Reset();
+
+	ULevelSequence* LoadedSequence = Cast<ULevelSequence>(Sequence.TryLoad());
+	if (!LoadedSequence)
+	{
+		return;
+	}
+	bool bShotsChanged = false;
+	UMoviePipelineBlueprintLibrary::UpdateJobShotListFromSequence(LoadedSequence, this, bShotsChanged);
+
+	if (UMoviePipelineQueue* OwningQueue = GetTypedOuter<UMoviePipelineQueue>())
+	{
+		OwningQueue->InvalidateSerialNumber();
+	}
+}
+
+UMovieJobVariableAssignmentContainer* UMoviePipelineExecutorJob::GetOrCreateJobVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph)
+{
+	if (!InGraph)
+	{
+		return nullptr;
+	}
+	for (UMovieJobVariableAssignmentContainer* Assignments : GraphVariableAssignments)
+	{
+		if (Assignments && Assignments->GetGraphConfig() == InGraph)
+		{
+			return Assignments;
+		}
+	}
+	UMovieJobVariableAssignmentContainer* NewAssignments = NewObject<UMovieJobVariableAssignmentContainer>(this);
+	NewAssignments->SetFlags(RF_Transactional);
+	NewAssignments->SetGraphConfig(InGraph);
+	GraphVariableAssignments.Add(NewAssignments);
+	return NewAssignments;
+}
+
+TArray<TObjectPtr<UMovieJobVariableAssignmentContainer>>& UMoviePipelineExecutorJob::GetGraphVariableAssignments(const bool bUpdateAssignments)
+{
+	if (bUpdateAssignments)
+	{
+		RefreshAllVariableAssignments();
+	}
+	return GraphVariableAssignments;
+}
+
+void UMoviePipelineExecutorJob::RefreshVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph)
+{
+	GraphVariableAssignments.RemoveAll([InGraph](const TObjectPtr<UMovieJobVariableAssignmentContainer>& Assignments)
+	{
+		return !Assignments || !InGraph || !(Assignments->GetGraphConfig() == InGraph);
+	});
+	GetOrCreateJobVariableAssignmentsForGraph(InGraph);
+}
+
+// Stand-in choice: only the preset graphs themselves are followed; the engine also visits the graphs of their subgraph nodes.
+void UMoviePipelineExecutorJob::RefreshAllVariableAssignments()
+{
+	const UMovieGraphConfig* JobGraph = GetGraphPreset();
+	RefreshVariableAssignmentsForGraph(JobGraph);
+	for (UMoviePipelineExecutorShot* Shot : ShotInfo)
+	{
+		if (!Shot)
+		{
+			continue;
+		}
+		Shot->GetOrCreateJobVariableAssignmentsForGraph(JobGraph, true);
+		Shot->GetOrCreateJobVariableAssignmentsForGraph(Shot->GetGraphPreset());
+	}
+}
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
+{
+	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
+	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
+	VLMR_PROPERTY(JobName, EditableFlags);
+	VLMR_PROPERTY(Sequence, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/LevelSequence.LevelSequence"));
+	VLMR_PROPERTY(Map, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.World"));
+	VLMR_PROPERTY(Author, EditableFlags);
+	VLMR_PROPERTY(Comment, EditableFlags)->SetMetaData(TEXT("MultiLine"), TEXT("true"));
+	VLMR_PROPERTY(ShotInfo, CPF_BlueprintVisible | InstancedArrayFlags);
+	VLMR_PROPERTY(UserData, CPF_BlueprintVisible);
+	VLMR_PROPERTY(ConsoleVariableOverrides, EditableFlags);
+	VLMR_PROPERTY(StatusMessage, CPF_Transient);
+	VLMR_PROPERTY(StatusProgress, CPF_Transient);
+	VLMR_PROPERTY(bIsConsumed, CPF_Transient);
+	VLMR_PROPERTY(Configuration, CPF_ExportObject | CPF_InstancedReference);
+	VLMR_PROPERTY(PresetOrigin, CPF_None);
+	VLMR_PROPERTY(bEnabled, CPF_None);
+	VLMR_PROPERTY(GraphPreset, CPF_None);
+	VLMR_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	VLMR_PROPERTY(BasicConfig, CPF_ExportObject | CPF_InstancedReference);
+	VLMR_PROPERTY(ConfigMode, CPF_None);
+	VLMR_PROPERTY(bHasInitializedLegacyPresetDefaults, CPF_None);
+#endif
+
+	VLMR_FUNCTION(SetStatusMessage, TEXT("InStatus"));
+	VLMR_FUNCTION(GetStatusMessage);
+	VLMR_FUNCTION(SetStatusProgress, TEXT("InProgress"));
+	VLMR_FUNCTION(GetStatusProgress);
+	VLMR_FUNCTION(SetConsumed, TEXT("bInConsumed"));
+	VLMR_FUNCTION(IsConsumed);
+	VLMR_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
+	VLMR_FUNCTION(IsEnabled);
+	VLMR_FUNCTION(OnDuplicated);
+	VLMR_FUNCTION(SetPresetOrigin, TEXT("InPreset"));
+	VLMR_FUNCTION(GetPresetOrigin);
+	VLMR_FUNCTION(GetConfiguration);
+	VLMR_FUNCTION(SetConfiguration, TEXT("InPreset"));
+	VLMR_FUNCTION(GetGraphPreset);
+	VLMR_FUNCTION(SetGraphPreset, TEXT("InGraphPreset"), TEXT("bUpdateVariableAssignments"));
+	VLMR_FUNCTION(IsUsingGraphConfiguration);
+	VLMR_FUNCTION(SetSequence, TEXT("InSequence"));
+	VLMR_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"));
+#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+	VLMR_FUNCTION(GetConfigMode);
+	VLMR_FUNCTION(SetConfigMode, TEXT("InConfigMode"));
+	VLMR_FUNCTION(IsUsingBasicConfiguration);
+	VLMR_FUNCTION(GetBasicConfig);
+	VLMR_FUNCTION(CanUseConsoleVariableOverrides);
+#endif
+}

@@ -1,0 +1,16 @@
+#include "MoviePipelineOutputBase.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineOutputBase::UMoviePipelineOutputBase() = default;
+
+#if WITH_EDITOR
+FText UMoviePipelineOutputBase::GetCategoryText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "ExportsCategoryName_Text", "Exports");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
+{
+}

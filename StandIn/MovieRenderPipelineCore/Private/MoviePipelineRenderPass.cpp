@@ -1,0 +1,16 @@
+#include "MoviePipelineRenderPass.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineRenderPass::UMoviePipelineRenderPass() = default;
+
+#if WITH_EDITOR
+FText UMoviePipelineRenderPass::GetCategoryText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "RenderingCategoryName_Text", "Rendering");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineRenderPass, CLASS_Abstract, "MovieRenderPipelineCore")
+{
+}

@@ -1,0 +1,41 @@
+#include "MoviePipelineSetting.h"
+
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+
+UMoviePipelineSetting::UMoviePipelineSetting()
+	: bEnabled(true)
+	, ValidationState(EMoviePipelineValidationState::Valid)
+{
+}
+
+#if WITH_EDITOR
+void UMoviePipelineSetting::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+	ValidateState();
+}
+
+FText UMoviePipelineSetting::GetDisplayText() const
+{
+	return GetClass()->GetDisplayNameText();
+}
+
+FText UMoviePipelineSetting::GetCategoryText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "DefaultCategoryName_Text", "Settings");
+}
+#endif
+
+void UMoviePipelineSetting::ValidateStateImpl()
+{
+	ValidationResults.Reset();
+	ValidationState = EMoviePipelineValidationState::Valid;
+}
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineSetting, CLASS_Abstract, "MovieRenderPipelineCore")
+{
+	VLMR_PROPERTY(bEnabled, CPF_None);
+	VLMR_FUNCTION(IsEnabled);
+	VLMR_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
+}

@@ -1,0 +1,9 @@
+#include "MoviePipelineVideoOutputBase.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineVideoOutputBase::UMoviePipelineVideoOutputBase() = default;
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineVideoOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
+{
+}

@@ -1,0 +1,9 @@
+#include "MoviePipelineViewFamilySetting.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineViewFamilySetting::UMoviePipelineViewFamilySetting() = default;
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineViewFamilySetting, CLASS_Abstract, "MovieRenderPipelineCore")
+{
+}

@@ -1,0 +1,7 @@
+#include "MovieRenderPipelineCoreModule.h"
+
+#include "Modules/ModuleManager.h"
+
+DEFINE_LOG_CATEGORY(LogMovieRenderPipeline);
+
+IMPLEMENT_MODULE(FMovieRenderPipelineCoreModule, MovieRenderPipelineCore);

@@ -1,0 +1,25 @@
+// UMovieJobVariableAssignmentContainer: a job's (or shot's) values for the variables of one graph.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "UObject/SoftObjectPtr.h"
+
+class UMovieGraphConfig;
+
+// Stand-in choice: only the graph the assignments belong to; the values of the variables come with the graph work.
+UCLASS(MinimalAPI, BlueprintType)
+class MOVIERENDERPIPELINECORE_API UMovieJobVariableAssignmentContainer : public UObject
+{
+	VLMR_CLASS_BODY(UMovieJobVariableAssignmentContainer, UObject, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMovieJobVariableAssignmentContainer();
+
+	void SetGraphConfig(const TSoftObjectPtr<UMovieGraphConfig>& InGraphConfig) { GraphConfig = InGraphConfig; }
+	TSoftObjectPtr<UMovieGraphConfig> GetGraphConfig() const { return GraphConfig; }
+
+private:
+	UPROPERTY()
+	TSoftObjectPtr<UMovieGraphConfig> GraphConfig;
+};

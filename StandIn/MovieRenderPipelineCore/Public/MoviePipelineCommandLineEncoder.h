@@ -1,0 +1,50 @@
+// UMoviePipelineCommandLineEncoder: encodes the rendered frames into a movie with a command line tool.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineSetting.h"
+
+UENUM(BlueprintType)
+enum class EMoviePipelineEncodeQuality : uint8
+{
+	Low = 0,
+	Medium = 1,
+	High = 2,
+	Epic = 3,
+};
+VLMR_DECLARE_ENUM(EMoviePipelineEncodeQuality, MOVIERENDERPIPELINECORE_API)
+
+UCLASS(MinimalAPI, Blueprintable)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineCommandLineEncoder : public UMoviePipelineSetting
+{
+	VLMR_CLASS_BODY(UMoviePipelineCommandLineEncoder, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineCommandLineEncoder();
+
+#if WITH_EDITOR
+	virtual FText GetDisplayText() const override;
+	virtual FText GetCategoryText() const override;
+	virtual bool CanBeDisabled() const override { return true; }
+#endif
+	virtual bool IsValidOnShots() const override { return false; }
+	virtual bool IsValidOnPrimary() const override { return true; }
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	FString FileNameFormatOverride;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	EMoviePipelineEncodeQuality Quality;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	FString AdditionalCommandLineArgs;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	bool bDeleteSourceFiles;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	bool bSkipEncodeOnRenderCanceled;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
+	bool bWriteEachFrameDuration;
+};

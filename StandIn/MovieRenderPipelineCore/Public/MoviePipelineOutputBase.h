@@ -1,0 +1,20 @@
+// UMoviePipelineOutputBase: the base of settings that write what a render produced (image sequences, videos, audio).
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineSetting.h"
+
+UCLASS(MinimalAPI, Blueprintable, Abstract)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineOutputBase : public UMoviePipelineSetting
+{
+	VLMR_CLASS_BODY(UMoviePipelineOutputBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineOutputBase();
+
+	virtual bool IsValidOnShots() const override { return false; }
+	virtual bool IsValidOnPrimary() const override { return true; }
+#if WITH_EDITOR
+	virtual FText GetCategoryText() const override;
+#endif
+};

@@ -1,0 +1,20 @@
+// UMoviePipelineRenderPass: the base of settings that produce images (render passes, burn-ins, UI overlays).
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineSetting.h"
+
+UCLASS(MinimalAPI, Blueprintable, Abstract)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineRenderPass : public UMoviePipelineSetting
+{
+	VLMR_CLASS_BODY(UMoviePipelineRenderPass, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineRenderPass();
+
+#if WITH_EDITOR
+	virtual FText GetCategoryText() const override;
+#endif
+	virtual bool IsValidOnShots() const override { return true; }
+	virtual bool IsValidOnPrimary() const override { return true; }
+};

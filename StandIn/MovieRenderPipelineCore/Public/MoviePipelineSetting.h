@@ -1,0 +1,62 @@
+// UMoviePipelineSetting: the base of every Movie Render Queue setting a configuration holds.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Object.h"
+
+class UMoviePipelineExecutorJob;
+
+enum class EMoviePipelineValidationState : uint8
+{
+	Valid = 0,
+	Warnings = 1,
+	Errors = 2
+};
+
+UCLASS(MinimalAPI, BlueprintType, Abstract)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineSetting : public UObject
+{
+	VLMR_CLASS_BODY(UMoviePipelineSetting, UObject, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineSetting();
+
+	// Validates the setting and caches the result for GetValidationState().
+	void ValidateState() { ValidateStateImpl(); }
+
+#if WITH_EDITOR
+	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
+
+	virtual FText GetDisplayText() const;
+	virtual FText GetCategoryText() const;
+	virtual FText GetFooterText(UMoviePipelineExecutorJob* InJob) const { return FText(); }
+	// Whether the editor UI lets the user disable the setting; SetIsEnabled does not consult it.
+	virtual bool CanBeDisabled() const { return true; }
+#endif
+
+	virtual bool IsValidOnShots() const PURE_VIRTUAL(UMoviePipelineSetting::IsValidOnShots, return false;);
+	virtual bool IsValidOnPrimary() const PURE_VIRTUAL(UMoviePipelineSetting::IsValidOnPrimary, return false;);
+
+	// True for settings that must take part in a render even when only added transiently.
+	virtual bool IgnoreTransientFilters() const { return false; }
+	// Higher priority settings are set up after lower priority ones.
+	virtual int32 GetPriority() const { return 0; }
+	// Whether only one setting of this class may be active in a pipeline.
+	virtual bool IsSolo() const { return true; }
+
+	virtual EMoviePipelineValidationState GetValidationState() const { return ValidationState; }
+	virtual void ValidateStateImpl();
+	virtual TArray<FText> GetValidationResults() const { return ValidationResults; }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	virtual bool IsEnabled() const { return bEnabled; }
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	virtual void SetIsEnabled(bool bInEnabled) { bEnabled = bInEnabled; }
+
+protected:
+	UPROPERTY()
+	bool bEnabled;
+
+	EMoviePipelineValidationState ValidationState;
+	TArray<FText> ValidationResults;
+};

@@ -1,0 +1,34 @@
+// UMoviePipelineSetting_BlueprintBase: the base of settings implemented in Blueprints, configured by properties.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineSetting.h"
+
+UCLASS(MinimalAPI, Blueprintable, Abstract)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineSetting_BlueprintBase : public UMoviePipelineSetting
+{
+	VLMR_CLASS_BODY(UMoviePipelineSetting_BlueprintBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineSetting_BlueprintBase();
+
+#if WITH_EDITOR
+	virtual FText GetCategoryText() const override { return CategoryText; }
+	virtual bool CanBeDisabled() const override { return bCanBeDisabled; }
+#endif
+	virtual bool IsValidOnShots() const override { return bIsValidOnShots; }
+	virtual bool IsValidOnPrimary() const override { return bIsValidOnPrimary; }
+
+protected:
+	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = "Movie Render Pipeline")
+	FText CategoryText;
+
+	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = "Movie Render Pipeline")
+	bool bIsValidOnPrimary;
+
+	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = "Movie Render Pipeline")
+	bool bIsValidOnShots;
+
+	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = "Movie Render Pipeline")
+	bool bCanBeDisabled;
+};

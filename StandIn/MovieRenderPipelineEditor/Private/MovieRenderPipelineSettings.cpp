@@ -1,0 +1,34 @@
+#include "MovieRenderPipelineSettings.h"
+
+#include "Graph/MovieGraphConfig.h"
+#include "MoviePipelineDeferredPasses.h"
+#include "MoviePipelineImageSequenceOutput.h"
+#include "MoviePipelineQueue.h"
+#include "UObject/UnrealType.h"
+
+// The executors and the pipeline are named by path: the stand-in's executors and pipelines come with the render work.
+UMovieRenderPipelineProjectSettings::UMovieRenderPipelineProjectSettings()
+	: DefaultLocalExecutor(TEXT("/Script/MovieRenderPipelineEditor.MoviePipelinePIEExecutor"))
+	, DefaultRemoteExecutor(TEXT("/Script/MovieRenderPipelineEditor.MoviePipelineNewProcessExecutor"))
+	, DefaultExecutorJob(UMoviePipelineExecutorJob::StaticClass())
+	, DefaultPipeline(TEXT("/Script/MovieRenderPipelineCore.MoviePipeline"))
+{
+	PresetSaveDir.Path = TEXT("/Game/Cinematics/MoviePipeline/Presets/");
+	DefaultClasses.Add(FSoftClassPath(UMoviePipelineImageSequenceOutput_JPG::StaticClass()));
+	DefaultClasses.Add(FSoftClassPath(UMoviePipelineDeferredPassBase::StaticClass()));
+}
+
+VLMR_IMPLEMENT_CLASS(UMovieRenderPipelineProjectSettings, CLASS_Config | CLASS_DefaultConfig, "MovieRenderPipelineEditor")
+{
+	constexpr EPropertyFlags ConfigFlags = CPF_Config | CPF_Edit;
+	VLMR_PROPERTY(PresetSaveDir, ConfigFlags)->SetMetaData(TEXT("ContentDir"), TEXT(""));
+	VLMR_PROPERTY(LastPresetOrigin, ConfigFlags);
+	VLMR_PROPERTY(DefaultLocalExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
+	VLMR_PROPERTY(DefaultRemoteExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
+	VLMR_PROPERTY(DefaultExecutorJob, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorJob"));
+	VLMR_PROPERTY(DefaultPipeline, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineBase"));
+	FProperty* DefaultClassesProperty = VLMR_PROPERTY(DefaultClasses, ConfigFlags | CPF_BlueprintVisible);
+	DefaultClassesProperty->SetMetaData(TEXT("DisplayName"), TEXT("Default Job Settings Classes"));
+	DefaultClassesProperty->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineSetting"));
+	VLMR_PROPERTY(DefaultGraph, ConfigFlags | CPF_BlueprintVisible);
+}

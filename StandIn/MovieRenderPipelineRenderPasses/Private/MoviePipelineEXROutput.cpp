@@ -1,0 +1,25 @@
+#include "MoviePipelineEXROutput.h"
+
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+
+VLMR_IMPLEMENT_ENUM(EEXRCompressionFormat, "MovieRenderPipelineRenderPasses", None, PIZ, ZIP, DWAA, DWAB)
+
+UMoviePipelineImageSequenceOutput_EXR::UMoviePipelineImageSequenceOutput_EXR()
+	: Compression(EEXRCompressionFormat::PIZ)
+	, bMultilayer(true)
+{
+}
+
+#if WITH_EDITOR
+FText UMoviePipelineImageSequenceOutput_EXR::GetDisplayText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "ImgSequenceEXRSettingDisplayName", ".exr Sequence [16bit]");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_EXR, CLASS_None, "MovieRenderPipelineRenderPasses")
+{
+	VLMR_PROPERTY(Compression, CPF_Edit | CPF_BlueprintVisible);
+	VLMR_PROPERTY(bMultilayer, CPF_Edit | CPF_BlueprintVisible);
+}

@@ -1,0 +1,9 @@
+#include "MoviePipelineImagePassBase.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineImagePassBase::UMoviePipelineImagePassBase() = default;
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineImagePassBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
+{
+}

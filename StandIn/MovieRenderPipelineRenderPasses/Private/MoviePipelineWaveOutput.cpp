@@ -1,0 +1,18 @@
+#include "MoviePipelineWaveOutput.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineWaveOutput::UMoviePipelineWaveOutput() = default;
+
+// Stand-in choice: the engine's display text of the wave output was not established.
+#if WITH_EDITOR
+FText UMoviePipelineWaveOutput::GetDisplayText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "WaveOutputSettingDisplayName", ".wav Audio");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineWaveOutput, CLASS_None, "MovieRenderPipelineRenderPasses")
+{
+	VLMR_PROPERTY(FileNameFormatOverride, CPF_Edit | CPF_BlueprintVisible);
+}

@@ -1,0 +1,63 @@
+// Outputs that write every rendered frame as an image file: the abstract base and its BMP, PNG and JPG formats.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineOutputBase.h"
+
+UCLASS(MinimalAPI, Blueprintable, Abstract)
+class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutputBase : public UMoviePipelineOutputBase
+{
+	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+
+public:
+	UMoviePipelineImageSequenceOutputBase();
+
+protected:
+	// Whether the format keeps the alpha channel of the frames.
+	virtual bool IsAlphaAllowed() const { return false; }
+};
+
+UCLASS(MinimalAPI)
+class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_BMP : public UMoviePipelineImageSequenceOutputBase
+{
+	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_BMP, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+
+public:
+	UMoviePipelineImageSequenceOutput_BMP();
+
+#if WITH_EDITOR
+	virtual FText GetDisplayText() const override;
+#endif
+};
+
+UCLASS(MinimalAPI)
+class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_PNG : public UMoviePipelineImageSequenceOutputBase
+{
+	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_PNG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+
+public:
+	UMoviePipelineImageSequenceOutput_PNG();
+
+#if WITH_EDITOR
+	virtual FText GetDisplayText() const override;
+#endif
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "PNG")
+	bool bWriteAlpha;
+
+protected:
+	virtual bool IsAlphaAllowed() const override { return bWriteAlpha; }
+};
+
+UCLASS(MinimalAPI)
+class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_JPG : public UMoviePipelineImageSequenceOutputBase
+{
+	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_JPG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+
+public:
+	UMoviePipelineImageSequenceOutput_JPG();
+
+#if WITH_EDITOR
+	virtual FText GetDisplayText() const override;
+#endif
+};

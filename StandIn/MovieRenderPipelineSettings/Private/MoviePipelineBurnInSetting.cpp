@@ -1,0 +1,24 @@
+#include "MoviePipelineBurnInSetting.h"
+
+#include "UObject/UnrealType.h"
+
+FString UMoviePipelineBurnInSetting::DefaultBurnInWidgetAsset = TEXT("/MovieRenderPipeline/Blueprints/DefaultBurnIn.DefaultBurnIn_C");
+
+UMoviePipelineBurnInSetting::UMoviePipelineBurnInSetting()
+	: BurnInClass(DefaultBurnInWidgetAsset)
+	, bCompositeOntoFinalImage(true)
+{
+}
+
+#if WITH_EDITOR
+FText UMoviePipelineBurnInSetting::GetDisplayText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "BurnInSettingDisplayName", "Burn In");
+}
+#endif
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineBurnInSetting, CLASS_None, "MovieRenderPipelineSettings")
+{
+	VLMR_PROPERTY(BurnInClass, CPF_Edit | CPF_BlueprintVisible);
+	VLMR_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
+}

@@ -1,0 +1,91 @@
+#include "MoviePipelineConsoleVariableSetting.h"
+
+#include "UObject/UnrealType.h"
+
+UMoviePipelineConsoleVariableSetting::UMoviePipelineConsoleVariableSetting() = default;
+
+#if WITH_EDITOR
+FText UMoviePipelineConsoleVariableSetting::GetDisplayText() const
+{
+	return NSLOCTEXT("MovieRenderPipeline", "ConsoleVariableSettingDisplayName", "Console Variables");
+}
+#endif
+
+void UMoviePipelineConsoleVariableSetting::PostLoad()
+{
+	Super::PostLoad();
+	for (const TPair<FString, float>& DeprecatedEntry : ConsoleVariables_DEPRECATED)
+	{
+		AddOrUpdateConsoleVariable(DeprecatedEntry.Key, DeprecatedEntry.Value);
+	}
+	ConsoleVariables_DEPRECATED.Empty();
+}
+
+FMoviePipelineConsoleVariableEntry* UMoviePipelineConsoleVariableSetting::FindLastEntry(const FString& Name)
+{
+	for (int32 Index = CVars.Num() - 1; Index >= 0; --Index)
+	{
+		if (CVars[Index].Name.Equals(Name))
+		{
+			return &CVars[Index];
+		}
+	}
+	return nullptr;
+}
+
+bool UMoviePipelineConsoleVariableSetting::RemoveConsoleVariable(const FString& Name, const bool bRemoveAllInstances)
+{
+	if (bRemoveAllInstances)
+	{
+		return CVars.RemoveAll([&Name](const FMoviePipelineConsoleVariableEntry& Entry) { return Entry.Name.Equals(Name); }) > 0;
+	}
+	const FMoviePipelineConsoleVariableEntry* LastEntry = FindLastEntry(Name);
+	if (!LastEntry)
+	{
+		return false;
+	}
+	CVars.RemoveAt(int32(LastEntry - CVars.GetData()));
+	return true;
+}
+
+bool UMoviePipelineConsoleVariableSetting::AddOrUpdateConsoleVariable(const FString& Name, const float Value)
+{
+	if (FMoviePipelineConsoleVariableEntry* LastEntry = FindLastEntry(Name))
+	{
+		LastEntry->Value = Value;
+		return true;
+	}
+	return AddConsoleVariable(Name, Value);
+}
+
+bool UMoviePipelineConsoleVariableSetting::AddConsoleVariable(const FString& Name, const float Value)
+{
+	CVars.Add(FMoviePipelineConsoleVariableEntry(Name, Value));
+	return true;
+}
+
+bool UMoviePipelineConsoleVariableSetting::UpdateConsoleVariableEnableState(const FString& Name, const bool bIsEnabled)
+{
+	FMoviePipelineConsoleVariableEntry* LastEntry = FindLastEntry(Name);
+	if (!LastEntry)
+	{
+		return false;
+	}
+	LastEntry->bIsEnabled = bIsEnabled;
+	return true;
+}
+
+VLMR_IMPLEMENT_CLASS(UMoviePipelineConsoleVariableSetting, CLASS_None, "MovieRenderPipelineSettings")
+{
+	VLMR_PROPERTY(ConsoleVariables_DEPRECATED, CPF_Deprecated)->SetMetaData(TEXT("DeprecatedProperty"), TEXT(""));
+	VLMR_PROPERTY(StartConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
+	VLMR_PROPERTY(EndConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
+	FProperty* CVarsProperty = VLMR_PROPERTY(CVars, CPF_Edit);
+	CVarsProperty->SetMetaData(TEXT("DisplayName"), TEXT("Console Variables"));
+	CVarsProperty->SetMetaData(TEXT("ScriptNoExport"), TEXT(""));
+	VLMR_FUNCTION(GetConsoleVariables);
+	VLMR_FUNCTION(RemoveConsoleVariable, TEXT("Name"), TEXT("bRemoveAllInstances"));
+	VLMR_FUNCTION(AddOrUpdateConsoleVariable, TEXT("Name"), TEXT("Value"));
+	VLMR_FUNCTION(AddConsoleVariable, TEXT("Name"), TEXT("Value"));
+	VLMR_FUNCTION(UpdateConsoleVariableEnableState, TEXT("Name"), TEXT("bIsEnabled"));
+}

@@ -1,0 +1,62 @@
+// UMoviePipelineConsoleVariableSetting: console variables set and console commands run around a render.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "MoviePipelineSetting.h"
+#include "MovieRenderPipelineDataTypes.h"
+
+// Stand-in choice: ConsoleVariablePresets are left out (no ConsoleVariablesEditor plugin, no script interface properties).
+UCLASS(MinimalAPI, Blueprintable)
+class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineConsoleVariableSetting : public UMoviePipelineSetting
+{
+	VLMR_CLASS_BODY(UMoviePipelineConsoleVariableSetting, UMoviePipelineSetting, MOVIERENDERPIPELINESETTINGS_API)
+
+public:
+	UMoviePipelineConsoleVariableSetting();
+
+#if WITH_EDITOR
+	virtual FText GetDisplayText() const override;
+#endif
+	virtual bool IsValidOnShots() const override { return true; }
+	virtual bool IsValidOnPrimary() const override { return true; }
+	virtual int32 GetPriority() const override { return 1; }
+
+	// Moves the overrides saved in the deprecated map into the list.
+	virtual void PostLoad() override;
+
+	// A copy of the overrides; they are changed through the functions below.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	TArray<FMoviePipelineConsoleVariableEntry> GetConsoleVariables() const { return CVars; }
+
+	// Removes the last override with that name, or all of them; true when one was removed.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	bool RemoveConsoleVariable(const FString& Name, const bool bRemoveAllInstances = false);
+
+	// Updates the value of the last override with that name, or adds one.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	bool AddOrUpdateConsoleVariable(const FString& Name, const float Value);
+
+	// Adds an override even when one with that name exists.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	bool AddConsoleVariable(const FString& Name, const float Value);
+
+	// Enables or disables the last override with that name; false when there is none.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	bool UpdateConsoleVariableEnableState(const FString& Name, const bool bIsEnabled);
+
+	// Deprecated in 5.2: the overrides before they could be disabled or repeated.
+	UPROPERTY(meta = (DeprecatedProperty))
+	TMap<FString, float> ConsoleVariables_DEPRECATED;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Game")
+	TArray<FString> StartConsoleCommands;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Game")
+	TArray<FString> EndConsoleCommands;
+
+private:
+	FMoviePipelineConsoleVariableEntry* FindLastEntry(const FString& Name);
+
+	UPROPERTY(EditAnywhere, Category = "Game", meta = (DisplayName = "Console Variables", ScriptNoExport))
+	TArray<FMoviePipelineConsoleVariableEntry> CVars;
+};
