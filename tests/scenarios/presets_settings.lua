@@ -38,6 +38,12 @@ check.lines({
 	string.format("[OK] mrq_list_settings -> %d classes", #all),
 }, "list lines")
 
+-- A deprecated class is never listed, yet it is found and added by name.
+check.eq(#mrq_list_settings("StandInLegacy"), 0, "deprecated class not listed")
+local legacy = config:find_or_add_setting("StandInLegacy")
+check.matches(legacy and legacy._name, "StandInLegacySetting$", "deprecated class found by the substring pass")
+check.eq(config:remove_setting("StandInLegacy"), true, "and removed again")
+
 editor.clear_log()
 local info = config:info()
 check.eq(info.path, "/Game/Presets/Base.Base", "info path")

@@ -15,7 +15,6 @@
 #include "MoviePipelineSetting.h"
 #include "Graph/MovieGraphConfig.h"
 #include "UObject/Package.h"
-#include "UObject/SavePackage.h"
 #include "UObject/UObjectHash.h"
 #include "VLMRBindings.h"
 #include "VLMRScriptSupport.h"
@@ -112,18 +111,29 @@ namespace VLMR
 		return PrefixGameRoot(ToFString(Utf8Path));
 	}
 
-	// Adds one job for a sequence; with bClearQueue the queue is emptied only after every check passed.
-	static sol::object AddJobForSequence(sol::state_view Lua, FLuaSessionData& Session, const TCHAR* Label, const std::string& SequencePath, bool bClearQueue)
+	// The queue subsystem when it exists and nothing is rendering; else null after the call's failure line.
+	static UMoviePipelineQueueSubsystem* GetIdleSubsystem(FLuaSessionData& Session, const TCHAR* Label)
 	{
 		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
 		if (!Subsystem)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Pipeline subsystem not available"));
-			return Nil(Lua);
+			return nullptr;
 		}
 		if (IsRenderInProgress(Subsystem))
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("a render is already in progress"));
+			return nullptr;
+		}
+		return Subsystem;
+	}
+
+	// Adds one job for a sequence; with bClearQueue the queue is emptied only after every check passed.
+	static sol::object AddJobForSequence(sol::state_view Lua, FLuaSessionData& Session, const TCHAR* Label, const std::string& SequencePath, bool bClearQueue)
+	{
+		UMoviePipelineQueueSubsystem* Subsystem = GetIdleSubsystem(Session, Label);
+		if (!Subsystem)
+		{
 			return Nil(Lua);
 		}
 		const FString Path = NormalizedArgument(SequencePath);
@@ -459,15 +469,7 @@ namespace VLMR
 			return Nil(Lua);
 		}
 
-		const FString Filename = FPackageName::LongPackageNameToFilename(PackagePath, FPackageName::GetAssetPackageExtension());
-		FSavePackageArgs SaveArgs;
-		SaveArgs.TopLevelFlags = RF_Standalone;
-		SaveArgs.SaveFlags = SAVE_None;
-		SaveArgs.bForceByteSwapping = false;
-		SaveArgs.bWarnOfLongFilename = true;
-		SaveArgs.bSlowTask = true;
-		SaveArgs.Error = GError;
-		if (!UPackage::Save(Package, Copy, *Filename, SaveArgs).IsSuccessful())
+		if (!SavePackageFile(Package, Copy))
 		{
 			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("save failed for '%s'"), *PackagePath));
 			return Nil(Lua);
@@ -479,15 +481,9 @@ namespace VLMR
 	static sol::object LoadQueue(sol::state_view Lua, FLuaSessionData& Session, const std::string& AssetPath)
 	{
 		const TCHAR* Label = TEXT("mrq_load_queue");
-		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+		UMoviePipelineQueueSubsystem* Subsystem = GetIdleSubsystem(Session, Label);
 		if (!Subsystem)
 		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Pipeline subsystem not available"));
-			return Nil(Lua);
-		}
-		if (IsRenderInProgress(Subsystem))
-		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("a render is already in progress"));
 			return Nil(Lua);
 		}
 		const FString Path = NormalizedArgument(AssetPath);

@@ -97,6 +97,15 @@ namespace VLMR
 		return Class;
 	}
 
+	// The job's configuration and the setting class, checked in that order: job, class, configuration.
+	static UMoviePipelinePrimaryConfig* ResolveJobSettingTarget(const TWeakObjectPtr<UMoviePipelineExecutorJob>& WeakJob, FLuaSessionData& Session,
+		const TCHAR* Label, const std::string& ClassName, UClass*& OutClass)
+	{
+		UMoviePipelineExecutorJob* Job = ResolveOrReport(WeakJob, Session, Label, TEXT("job"));
+		OutClass = Job ? ResolveSettingClassOrReport(ClassName, Session, Label) : nullptr;
+		return OutClass ? ResolveJobConfiguration(Job, Session, Label) : nullptr;
+	}
+
 	static sol::table MakeSettingRows(sol::state_view Lua, const UMoviePipelinePrimaryConfig* Config, bool bWithDisplayName)
 	{
 		sol::table Rows = Lua.create_table();
@@ -121,9 +130,8 @@ namespace VLMR
 	static sol::object JobFindOrAddSetting(sol::state_view Lua, const TWeakObjectPtr<UMoviePipelineExecutorJob>& WeakJob, FLuaSessionData& Session, const std::string& ClassName)
 	{
 		const TCHAR* Label = TEXT("find_or_add_setting");
-		UMoviePipelineExecutorJob* Job = ResolveOrReport(WeakJob, Session, Label, TEXT("job"));
-		UClass* Class = Job ? ResolveSettingClassOrReport(ClassName, Session, Label) : nullptr;
-		UMoviePipelinePrimaryConfig* Config = Class ? ResolveJobConfiguration(Job, Session, Label) : nullptr;
+		UClass* Class = nullptr;
+		UMoviePipelinePrimaryConfig* Config = ResolveJobSettingTarget(WeakJob, Session, Label, ClassName, Class);
 		if (!Config)
 		{
 			return Nil(Lua);
@@ -142,9 +150,8 @@ namespace VLMR
 	static sol::object JobRemoveSetting(sol::state_view Lua, const TWeakObjectPtr<UMoviePipelineExecutorJob>& WeakJob, FLuaSessionData& Session, const std::string& ClassName)
 	{
 		const TCHAR* Label = TEXT("remove_setting");
-		UMoviePipelineExecutorJob* Job = ResolveOrReport(WeakJob, Session, Label, TEXT("job"));
-		UClass* Class = Job ? ResolveSettingClassOrReport(ClassName, Session, Label) : nullptr;
-		UMoviePipelinePrimaryConfig* Config = Class ? ResolveJobConfiguration(Job, Session, Label) : nullptr;
+		UClass* Class = nullptr;
+		UMoviePipelinePrimaryConfig* Config = ResolveJobSettingTarget(WeakJob, Session, Label, ClassName, Class);
 		if (!Config)
 		{
 			return Nil(Lua);

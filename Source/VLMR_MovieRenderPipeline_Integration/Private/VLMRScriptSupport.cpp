@@ -81,15 +81,7 @@ namespace VLMR
 		FAssetRegistryModule::AssetCreated(Asset);
 
 		const FString PackageName = Package->GetName();
-		const FString Filename = FPackageName::LongPackageNameToFilename(PackageName, FPackageName::GetAssetPackageExtension());
-		FSavePackageArgs SaveArgs;
-		SaveArgs.TopLevelFlags = RF_Standalone;
-		SaveArgs.Error = GError;
-		SaveArgs.bWarnOfLongFilename = true;
-		SaveArgs.bSlowTask = true;
-
-		const FSavePackageResultStruct Result = UPackage::Save(Package, Asset, *Filename, SaveArgs);
-		if (!Result.IsSuccessful())
+		if (!SavePackageFile(Package, Asset))
 		{
 			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("save failed for '%s'"), *PackageName));
 			return false;
@@ -97,6 +89,20 @@ namespace VLMR
 
 		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("saved '%s'"), *PackageName));
 		return true;
+	}
+
+	bool SavePackageFile(UPackage* Package, UObject* Asset)
+	{
+		const FString Filename = FPackageName::LongPackageNameToFilename(Package->GetName(), FPackageName::GetAssetPackageExtension());
+		FSavePackageArgs SaveArgs;
+		SaveArgs.TargetPlatform = nullptr;
+		SaveArgs.TopLevelFlags = RF_Standalone;
+		SaveArgs.SaveFlags = SAVE_None;
+		SaveArgs.bForceByteSwapping = false;
+		SaveArgs.bWarnOfLongFilename = true;
+		SaveArgs.bSlowTask = true;
+		SaveArgs.Error = GError;
+		return UPackage::Save(Package, Asset, *Filename, SaveArgs).IsSuccessful();
 	}
 
 	FString NormalizeAssetPath(const FString& Path)

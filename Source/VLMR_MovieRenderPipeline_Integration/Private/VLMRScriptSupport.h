@@ -12,6 +12,7 @@ class FProperty;
 class UClass;
 class UFunction;
 class UObject;
+class UPackage;
 
 namespace VLMR
 {
@@ -50,6 +51,10 @@ namespace VLMR
 
 	// The one way an asset is saved: asks the session first, then saves the asset's package and reports the result.
 	bool SaveAsset(UObject* Asset, FLuaSessionData& Session, const FString& Label);
+
+	// Writes the package to its file under the project with the asset as its base object: standalone objects only,
+	// errors to GError, long file names warned of, slow-task progress on, no target platform.
+	bool SavePackageFile(UPackage* Package, UObject* Asset);
 
 	// "/Game/" in front of a non-empty path that does not begin with "/".
 	FString NormalizeAssetPath(const FString& Path);
