@@ -6,6 +6,7 @@
 #include "LevelSequenceAssets.h"
 #include "LuaSessionData.h"
 #include "MovieRenderQueueTestDriver.h"
+#include "RenderWait.h"
 #include "Runtime/Launch/Resources/Version.h"
 #include "SequenceShotOptions.h"
 #include "UObject/GarbageCollection.h"
@@ -48,11 +49,10 @@ namespace UE::Vlmr
 			return 1;
 		}
 
-		// Stand-in choice: nothing renders yet, so the editor ticks max_frames times.
 		int LuaRunUntilIdle(lua_State* L)
 		{
 			const lua_Integer MaxFrames = luaL_checkinteger(L, 1);
-			lua_pushinteger(L, TickEditor(int32(FMath::Clamp<lua_Integer>(MaxFrames, 0, MAX_int32))));
+			lua_pushinteger(L, TickUntilRenderIdle(int32(FMath::Clamp<lua_Integer>(MaxFrames, 0, MAX_int32)), []() {}));
 			return 1;
 		}
 
@@ -255,6 +255,7 @@ namespace UE::Vlmr
 			{ "set_rendering", &LuaSetRendering },
 			{ "set_queue_subsystem_available", &LuaSetQueueSubsystemAvailable },
 			{ "set_default_local_executor", &LuaSetDefaultLocalExecutor },
+			{ "list_files", &LuaListFiles },
 			{ nullptr, nullptr },
 		};
 		lua_createtable(L, 0, UE_ARRAY_COUNT(Functions) - 1);

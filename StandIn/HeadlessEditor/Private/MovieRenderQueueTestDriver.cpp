@@ -2,6 +2,8 @@
 
 #include "ConfigAssets.h"
 #include "Editor.h"
+#include "HAL/FileManager.h"
+#include "Misc/Paths.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueueSubsystem.h"
 #include "MovieRenderPipelineSettings.h"
@@ -73,6 +75,24 @@ namespace UE::Vlmr
 			return FString();
 		}
 
+		TArray<FString> ListFilesBelow(const FString& InDirectory)
+		{
+			FString Directory = FPaths::IsRelative(InDirectory) ? FPaths::Combine(FPaths::ProjectDir(), InDirectory) : InDirectory;
+			FPaths::NormalizeDirectoryName(Directory);
+			TArray<FString> Files;
+			if (!Directory.IsEmpty() && FPaths::DirectoryExists(Directory))
+			{
+				IFileManager::Get().FindFilesRecursive(Files, *Directory, TEXT("*"), true, false);
+			}
+			for (FString& File : Files)
+			{
+				FPaths::NormalizeFilename(File);
+				FPaths::MakePathRelativeTo(File, *(Directory + TEXT("/")));
+			}
+			Files.Sort();
+			return Files;
+		}
+
 		void SetDefaultLocalExecutor(const char* ClassPath)
 		{
 			UMovieRenderPipelineProjectSettings* Settings = UMovieRenderPipelineProjectSettings::StaticClass()->GetDefaultObject<UMovieRenderPipelineProjectSettings>();
@@ -120,6 +140,19 @@ namespace UE::Vlmr
 			}
 		}
 		return bFailed ? lua_error(L) : 0;
+	}
+
+	int LuaListFiles(lua_State* L)
+	{
+		const char* Directory = luaL_checkstring(L, 1);
+		const TArray<FString> Files = ListFilesBelow(FString(UTF8_TO_TCHAR(Directory)));
+		lua_createtable(L, Files.Num(), 0);
+		for (int32 Index = 0; Index < Files.Num(); ++Index)
+		{
+			PushFString(L, Files[Index]);
+			lua_rawseti(L, -2, Index + 1);
+		}
+		return 1;
 	}
 
 	int LuaSetDefaultLocalExecutor(lua_State* L)

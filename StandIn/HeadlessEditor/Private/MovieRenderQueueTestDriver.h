@@ -19,4 +19,8 @@ namespace UE::Vlmr
 
 	// editor.set_default_local_executor(class_path): the executor class the project settings name for local renders.
 	int LuaSetDefaultLocalExecutor(lua_State* L);
+
+	// editor.list_files(dir): the files below the directory (relative ones are under the project directory), as
+	// sorted paths relative to it with "/" separators; an empty table when the directory does not exist.
+	int LuaListFiles(lua_State* L);
 }

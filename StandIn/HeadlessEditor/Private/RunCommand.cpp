@@ -1,8 +1,12 @@
 #include "ConsoleOutput.h"
 #include "EditorTestDriver.h"
 #include "HeadlessEditorScope.h"
+#include "RenderWait.h"
 #include "VelmireLuaSession.h"
 #include "VlmrCommands.h"
+
+#include <cstdio>
+#include <unistd.h>
 
 namespace UE::Vlmr
 {
@@ -11,7 +15,7 @@ namespace UE::Vlmr
 		struct FRunOptions
 		{
 			FString ProjectDir;
-			// Stand-in choice: accepted now; renders, which a run would otherwise wait for, come with the render work.
+			// Skips waiting, after the scripts, for the render they started.
 			bool bNoWait = false;
 			TArray<FString> Scripts;
 		};
@@ -41,8 +45,45 @@ namespace UE::Vlmr
 			return OutOptions.Scripts.Num() > 0;
 		}
 
+		// Stand-in choice: a render that never ends (a stuck executor) stops holding the run after this many ticks.
+		constexpr int32 MaxRenderWaitTicks = 100000;
+		constexpr int32 ProgressBarWidth = 40;
+
+		void DrawProgressBar(float Progress)
+		{
+			const int32 Filled = FMath::Clamp(int32(Progress * ProgressBarWidth), 0, ProgressBarWidth);
+			const FString Bar = FString::ChrN(Filled, TEXT('#')) + FString::ChrN(ProgressBarWidth - Filled, TEXT('-'));
+			const FTCHARToUTF8 Text(*FString::Printf(TEXT("\rRendering [%s] %3d%%"), *Bar, int32(Progress * 100.0f)));
+			std::fwrite(Text.Get(), 1, size_t(Text.Length()), stderr);
+			std::fflush(stderr);
+		}
+
+		// Ticks the editor until the render the scripts started is over, with a progress bar when stderr is a terminal.
+		void WaitForRender()
+		{
+			if (!IsRenderInProgress())
+			{
+				return;
+			}
+			const bool bDrawProgress = isatty(fileno(stderr)) != 0;
+			int32 DrawnPercent = -1;
+			TickUntilRenderIdle(MaxRenderWaitTicks, [bDrawProgress, &DrawnPercent]()
+			{
+				const float Progress = GetRenderProgress();
+				if (bDrawProgress && int32(Progress * 100.0f) != DrawnPercent)
+				{
+					DrawnPercent = int32(Progress * 100.0f);
+					DrawProgressBar(Progress);
+				}
+			});
+			if (bDrawProgress)
+			{
+				std::fputc('\n', stderr);
+			}
+		}
+
 		// One session for all scripts, in order; the first Lua error ends the run.
-		int32 RunScripts(const TArray<FString>& Scripts)
+		int32 RunScripts(const TArray<FString>& Scripts, bool bWaitForRender)
 		{
 			FVelmireLuaSession Session([](const FString& Line) { WriteLine(stdout, Line); });
 			InstallEditorTestDriver(Session.GetState().lua_state(), Session.GetSessionData());
@@ -54,6 +95,10 @@ namespace UE::Vlmr
 					WriteLine(stderr, TEXT("error: ") + Error);
 					return ExitFailure;
 				}
+			}
+			if (bWaitForRender)
+			{
+				WaitForRender();
 			}
 			return ExitSuccess;
 		}
@@ -73,6 +118,6 @@ namespace UE::Vlmr
 			WriteLine(stderr, TEXT("error: ") + Editor.GetError());
 			return ExitFailure;
 		}
-		return RunScripts(Options.Scripts);
+		return RunScripts(Options.Scripts, !Options.bNoWait);
 	}
 }

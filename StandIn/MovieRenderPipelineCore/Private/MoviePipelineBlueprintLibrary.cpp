@@ -3,6 +3,7 @@
 #include "Containers/Map.h"
 #include "LevelSequence.h"
 #include "Misc/Paths.h"
+#include "MoviePipeline.h"
 #include "MovieRenderPipelineCoreModule.h"
 #include "MovieScene.h"
 #include "MoviePipelineQueue.h"
@@ -153,7 +154,38 @@ void UMoviePipelineBlueprintLibrary::UpdateJobShotListFromSequence(ULevelSequenc
 	}
 }
 
+float UMoviePipelineBlueprintLibrary::GetCompletionPercentage(const UMoviePipeline* InPipeline)
+{
+	if (!InPipeline)
+	{
+		return 0.0f;
+	}
+	if (InPipeline->GetPipelineState() == EMovieRenderPipelineState::Finished)
+	{
+		return 1.0f;
+	}
+	if (InPipeline->TotalOutputFrames <= 0)
+	{
+		return 0.0f;
+	}
+	return FMath::Clamp(float(InPipeline->OutputFrameCount) / float(InPipeline->TotalOutputFrames), 0.0f, 1.0f);
+}
+
+EMovieRenderPipelineState UMoviePipelineBlueprintLibrary::GetPipelineState(const UMoviePipeline* InPipeline)
+{
+	return InPipeline ? InPipeline->GetPipelineState() : EMovieRenderPipelineState::Uninitialized;
+}
+
+void UMoviePipelineBlueprintLibrary::GetOverallOutputFrames(const UMoviePipeline* InMoviePipeline, int32& OutCurrentIndex, int32& OutTotalCount)
+{
+	OutCurrentIndex = InMoviePipeline ? InMoviePipeline->OutputFrameCount : 0;
+	OutTotalCount = InMoviePipeline ? InMoviePipeline->TotalOutputFrames : 0;
+}
+
 VLMR_IMPLEMENT_CLASS(UMoviePipelineBlueprintLibrary, CLASS_None, "MovieRenderPipelineCore")
 {
 	VLMR_FUNCTION(UpdateJobShotListFromSequence, TEXT("InSequence"), TEXT("InJob"), TEXT("bShotsChanged"));
+	VLMR_FUNCTION(GetCompletionPercentage, TEXT("InPipeline"));
+	VLMR_FUNCTION(GetPipelineState, TEXT("InPipeline"));
+	VLMR_FUNCTION(GetOverallOutputFrames, TEXT("InMoviePipeline"), TEXT("OutCurrentIndex"), TEXT("OutTotalCount"));
 }

@@ -9,6 +9,11 @@ UMoviePipelineExecutorBase::UMoviePipelineExecutorBase()
 {
 }
 
+void UMoviePipelineExecutorBase::SetMoviePipelineClass(UClass* InPipelineClass)
+{
+	TargetPipelineClass = InPipelineClass;
+}
+
 void UMoviePipelineExecutorBase::OnExecutorFinishedImpl()
 {
 	OnExecutorFinishedDelegateNative.Broadcast(this, !bAnyJobHadFatalError);
@@ -27,12 +32,14 @@ void UMoviePipelineExecutorBase::OnExecutorErroredImpl(UMoviePipeline* ErroredPi
 VLMR_IMPLEMENT_CLASS(UMoviePipelineExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	VLMR_PROPERTY(UserData, CPF_BlueprintVisible);
+	VLMR_PROPERTY(TargetPipelineClass, CPF_Transient);
 	VLMR_FUNCTION(Execute, TEXT("InPipelineQueue"));
 	VLMR_FUNCTION(IsRendering);
 	VLMR_FUNCTION(SetStatusMessage, TEXT("InStatus"));
 	VLMR_FUNCTION(GetStatusMessage);
 	VLMR_FUNCTION(SetStatusProgress, TEXT("InProgress"));
 	VLMR_FUNCTION(GetStatusProgress);
+	VLMR_FUNCTION(SetMoviePipelineClass, TEXT("InPipelineClass"));
 	VLMR_FUNCTION(CancelCurrentJob);
 	VLMR_FUNCTION(CancelAllJobs);
 	VLMR_FUNCTION(OnExecutorFinishedImpl);

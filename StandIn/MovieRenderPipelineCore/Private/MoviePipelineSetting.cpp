@@ -1,5 +1,6 @@
 #include "MoviePipelineSetting.h"
 
+#include "MoviePipeline.h"
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
@@ -26,6 +27,16 @@ FText UMoviePipelineSetting::GetCategoryText() const
 	return NSLOCTEXT("MovieRenderPipeline", "DefaultCategoryName_Text", "Settings");
 }
 #endif
+
+void UMoviePipelineSetting::OnMoviePipelineInitialized(UMoviePipeline* InPipeline)
+{
+	CachedPipeline = InPipeline;
+}
+
+UMoviePipeline* UMoviePipelineSetting::GetPipeline() const
+{
+	return CachedPipeline.Get();
+}
 
 void UMoviePipelineSetting::ValidateStateImpl()
 {

@@ -1,5 +1,6 @@
 #include "MovieRenderPipelineDataTypes.h"
 
+#include "Containers/Map.h"
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
@@ -24,4 +25,34 @@ VLMR_IMPLEMENT_STRUCT(FMoviePipelineSidecarCamera, "MovieRenderPipelineCore")
 {
 	VLMR_PROPERTY(BindingId, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
 	VLMR_PROPERTY(Name, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
+}
+
+FString UE::MoviePipeline::GetPaddingFormatString(int32 InZeroPadCount, const int32 InFrameNumber)
+{
+	return FString::Printf(TEXT("%0*d"), InZeroPadCount + (InFrameNumber < 0 ? 1 : 0), InFrameNumber);
+}
+
+void FMoviePipelineFrameOutputState::GetFilenameFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs, const int32 InZeroPadCount, const int32 InFrameNumberOffset, const bool bForceRelFrameNumbers) const
+{
+	using UE::MoviePipeline::GetPaddingFormatString;
+	const int32 RootFrame = (bForceRelFrameNumbers ? OutputFrameNumber : SourceFrameNumber) + InFrameNumberOffset;
+	const int32 ShotFrame = (bForceRelFrameNumbers ? ShotOutputFrameNumber : CurrentShotSourceFrameNumber) + InFrameNumberOffset;
+	const FString FrameNumber = GetPaddingFormatString(InZeroPadCount, RootFrame);
+	const FString FrameNumberShot = GetPaddingFormatString(InZeroPadCount, ShotFrame);
+	const FString FrameNumberRel = GetPaddingFormatString(InZeroPadCount, OutputFrameNumber + InFrameNumberOffset);
+	const FString FrameNumberShotRel = GetPaddingFormatString(InZeroPadCount, ShotOutputFrameNumber + InFrameNumberOffset);
+
+	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number"), FrameNumber);
+	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number_shot"), FrameNumberShot);
+	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number_rel"), FrameNumberRel);
+	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number_shot_rel"), FrameNumberShotRel);
+	InOutFormatArgs.FilenameArguments.Add(TEXT("camera_name"), CameraName);
+	InOutFormatArgs.FilenameArguments.Add(TEXT("shot_name"), ShotName);
+
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/sequenceFrameNumber"), FrameNumber);
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/shotFrameNumber"), FrameNumberShot);
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/sequenceFrameNumberRelative"), FrameNumberRel);
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/shotFrameNumberRelative"), FrameNumberShotRel);
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/cameraName"), CameraName);
+	InOutFormatArgs.FileMetadata.Add(TEXT("unreal/shotName"), ShotName);
 }

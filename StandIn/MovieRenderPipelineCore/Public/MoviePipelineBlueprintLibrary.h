@@ -3,8 +3,10 @@
 
 #include "CoreMinimal.h"
 #include "Kismet/BlueprintFunctionLibrary.h"
+#include "MovieRenderPipelineDataTypes.h"
 
 class ULevelSequence;
+class UMoviePipeline;
 class UMoviePipelineExecutorJob;
 
 UCLASS(MinimalAPI, meta = (ScriptName = "MoviePipelineLibrary"))
@@ -17,4 +19,16 @@ public:
 	// shots, one for its whole playback range). Shots whose names match an existing shot reuse it, keeping its state.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
 	static void UpdateJobShotListFromSequence(ULevelSequence* InSequence, UMoviePipelineExecutorJob* InJob, bool& bShotsChanged);
+
+	// How much of the pipeline's job is rendered, 0 to 1 (1 once the pipeline finished); 0 for a null pipeline.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	static float GetCompletionPercentage(const UMoviePipeline* InPipeline);
+
+	// The pipeline's state; Uninitialized for a null pipeline.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	static EMovieRenderPipelineState GetPipelineState(const UMoviePipeline* InPipeline);
+
+	// The output frame being produced (0-based) and how many the job has in all.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	static void GetOverallOutputFrames(const UMoviePipeline* InMoviePipeline, int32& OutCurrentIndex, int32& OutTotalCount);
 };

@@ -3,6 +3,7 @@
 
 #include "CoreMinimal.h"
 #include "Delegates/Delegate.h"
+#include "UObject/ObjectPtr.h"
 #include "UObject/Object.h"
 
 class UMoviePipeline;
@@ -41,6 +42,10 @@ public:
 	UFUNCTION(BlueprintPure, BlueprintNativeEvent, Category = "Movie Render Pipeline")
 	float GetStatusProgress() const { return GetStatusProgress_Implementation(); }
 
+	// The pipeline class the executor renders jobs with; null lets the executor choose.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	void SetMoviePipelineClass(UClass* InPipelineClass);
+
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
 	void CancelCurrentJob() { CancelCurrentJob_Implementation(); }
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
@@ -69,6 +74,10 @@ public:
 	FString UserData;
 
 protected:
+	// Stand-in choice: held as a UClass; the engine's member is a TSubclassOf<UMoviePipeline>.
+	UPROPERTY(Transient)
+	TObjectPtr<UClass> TargetPipelineClass;
+
 	FString StatusMessage;
 	float StatusProgress;
 	bool bAnyJobHadFatalError;

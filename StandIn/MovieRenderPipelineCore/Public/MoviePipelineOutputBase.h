@@ -4,6 +4,8 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+struct FMoviePipelineMergerOutputFrame;
+
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineOutputBase : public UMoviePipelineSetting
 {
@@ -17,4 +19,10 @@ public:
 #if WITH_EDITOR
 	virtual FText GetCategoryText() const override;
 #endif
+
+	// Called by the pipeline once for every output frame it produced.
+	void OnReceiveImageData(FMoviePipelineMergerOutputFrame* InMergedOutputFrame) { OnReceiveImageDataImpl(InMergedOutputFrame); }
+
+protected:
+	virtual void OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame) {}
 };

@@ -3,7 +3,9 @@
 
 #include "CoreMinimal.h"
 #include "UObject/Object.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
+class UMoviePipeline;
 class UMoviePipelineExecutorJob;
 
 enum class EMoviePipelineValidationState : uint8
@@ -48,6 +50,11 @@ public:
 	virtual void ValidateStateImpl();
 	virtual TArray<FText> GetValidationResults() const { return ValidationResults; }
 
+	// Called by the pipeline that is about to render with this setting.
+	void OnMoviePipelineInitialized(UMoviePipeline* InPipeline);
+	// The pipeline rendering with this setting; null outside a render.
+	UMoviePipeline* GetPipeline() const;
+
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	virtual bool IsEnabled() const { return bEnabled; }
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
@@ -59,4 +66,7 @@ protected:
 
 	EMoviePipelineValidationState ValidationState;
 	TArray<FText> ValidationResults;
+
+private:
+	TWeakObjectPtr<UMoviePipeline> CachedPipeline;
 };

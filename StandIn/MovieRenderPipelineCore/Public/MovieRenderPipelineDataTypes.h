@@ -3,10 +3,14 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Containers/Map.h"
 #include "Math/Range.h"
 #include "Misc/FrameNumber.h"
 #include "Misc/Guid.h"
 #include "UObject/ObjectMacros.h"
+
+class UMoviePipelineBase;
+class UMoviePipelineExecutorJob;
 
 UENUM(BlueprintType)
 enum class EMovieRenderPipelineState : uint8
@@ -118,4 +122,58 @@ struct MOVIERENDERPIPELINECORE_API FMoviePipelineCameraCutInfo
 	TRange<FFrameNumber> TotalOutputRangeRoot = TRange<FFrameNumber>::Empty();
 	// The part of the camera cut before TotalOutputRangeRoot, usable for warm-up frames.
 	TRange<FFrameNumber> WarmupRangeRoot = TRange<FFrameNumber>::Empty();
+	// Where the shot is in its render.
+	EMovieRenderShotState State = EMovieRenderShotState::Uninitialized;
 };
+
+// The file name tokens ({name} -> value) and file metadata gathered to write one output file.
+// Stand-in choice: a plain struct with the engine's member names; the engine's is a reflected USTRUCT.
+struct MOVIERENDERPIPELINECORE_API FMoviePipelineFormatArgs
+{
+	TMap<FString, FString> FilenameArguments;
+	TMap<FString, FString> FileMetadata;
+	UMoviePipelineExecutorJob* InJob = nullptr;
+};
+
+// Which output frame a rendered frame is: its numbers in the whole render and in its shot.
+// Stand-in choice: the members that name output files; the engine's also carries sampling and timing data.
+struct MOVIERENDERPIPELINECORE_API FMoviePipelineFrameOutputState
+{
+	// Counts output frames from 0 over the whole render.
+	int32 OutputFrameNumber = 0;
+	int32 ShotIndex = 0;
+	// The root sequence's frame, at the output frame rate.
+	int32 SourceFrameNumber = 0;
+	// The frame within the shot's own timeline, which starts at 0.
+	int32 CurrentShotSourceFrameNumber = 0;
+	// Counts output frames from 0 within the shot.
+	int32 ShotOutputFrameNumber = 0;
+	FString CameraName;
+	FString ShotName;
+
+	// Adds frame_number, frame_number_shot, frame_number_rel, frame_number_shot_rel, camera_name and shot_name.
+	void GetFilenameFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs, const int32 InZeroPadCount, const int32 InFrameNumberOffset, const bool bForceRelFrameNumbers) const;
+};
+
+// One output frame with every render pass it is made of, as the outputs receive it.
+// Stand-in choice: no pixel data; outputs write a small fixed image for every frame.
+struct MOVIERENDERPIPELINECORE_API FMoviePipelineMergerOutputFrame
+{
+	FMoviePipelineFrameOutputState FrameOutputState;
+	TArray<FMoviePipelinePassIdentifier> ExpectedRenderPasses;
+};
+
+// What a pipeline reports when its work (a whole job, or one shot) is finished.
+// Stand-in choice: a plain struct without the per-shot file lists of the engine's reflected one.
+struct MOVIERENDERPIPELINECORE_API FMoviePipelineOutputData
+{
+	UMoviePipelineBase* Pipeline = nullptr;
+	UMoviePipelineExecutorJob* Job = nullptr;
+	bool bSuccess = false;
+};
+
+namespace UE::MoviePipeline
+{
+	// The frame number padded to InZeroPadCount digits; the minus sign of a negative number does not count as one.
+	MOVIERENDERPIPELINECORE_API FString GetPaddingFormatString(int32 InZeroPadCount, const int32 InFrameNumber);
+}

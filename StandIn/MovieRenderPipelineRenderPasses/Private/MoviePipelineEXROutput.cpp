@@ -9,6 +9,7 @@ UMoviePipelineImageSequenceOutput_EXR::UMoviePipelineImageSequenceOutput_EXR()
 	: Compression(EEXRCompressionFormat::PIZ)
 	, bMultilayer(true)
 {
+	OutputFormatExtension = TEXT("exr");
 }
 
 #if WITH_EDITOR

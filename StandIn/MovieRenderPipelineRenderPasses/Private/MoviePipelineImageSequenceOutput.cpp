@@ -1,17 +1,108 @@
 #include "MoviePipelineImageSequenceOutput.h"
 
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
+#include "MoviePipeline.h"
+#include "MoviePipelineImageFileWriter.h"
+#include "MoviePipelineOutputSetting.h"
+#include "MoviePipelinePrimaryConfig.h"
+#include "MovieRenderPipelineCoreModule.h"
+#include "MovieRenderPipelineDataTypes.h"
 #include "UObject/UnrealType.h"
+
+namespace UE::MoviePipeline::Private
+{
+	// Puts {render_pass} in a name that several passes share, and {file_dup} before the frame number (so that a
+	// "_(2)" duplicate still reads as an image sequence), or at the end.
+	static void ValidateOutputFormatString(FString& InOutFilenameFormatString, const bool bTestRenderPass)
+	{
+		static const TCHAR* const FrameNumberIdentifiers[] = { TEXT("{frame_number}"), TEXT("{frame_number_shot}"), TEXT("{frame_number_rel}"), TEXT("{frame_number_shot_rel}") };
+		auto FindFrameNumber = [&InOutFilenameFormatString]()
+		{
+			for (const TCHAR* Identifier : FrameNumberIdentifiers)
+			{
+				const int32 Index = InOutFilenameFormatString.Find(Identifier, ESearchCase::IgnoreCase, ESearchDir::FromEnd);
+				if (Index != INDEX_NONE)
+				{
+					return Index;
+				}
+			}
+			return int32(INDEX_NONE);
+		};
+
+		if (bTestRenderPass && !InOutFilenameFormatString.Contains(TEXT("{render_pass}"), ESearchCase::IgnoreCase))
+		{
+			const int32 FrameNumberIndex = FindFrameNumber();
+			if (FrameNumberIndex == INDEX_NONE)
+			{
+				InOutFilenameFormatString += TEXT("{render_pass}");
+			}
+			else
+			{
+				InOutFilenameFormatString.InsertAt(FrameNumberIndex, TEXT("{render_pass}."));
+			}
+		}
+		const int32 FrameNumberIndex = FindFrameNumber();
+		if (FrameNumberIndex == INDEX_NONE)
+		{
+			UE_LOG(LogMovieRenderPipeline, Warning, TEXT("Frame number identifier not found. Files may be overwritten."));
+		}
+		else
+		{
+			InOutFilenameFormatString.InsertAt(FrameNumberIndex, TEXT("{file_dup}"));
+		}
+		if (!InOutFilenameFormatString.Contains(TEXT("{file_dup}"), ESearchCase::IgnoreCase))
+		{
+			InOutFilenameFormatString += TEXT("{file_dup}");
+		}
+	}
+}
 
 UMoviePipelineImageSequenceOutputBase::UMoviePipelineImageSequenceOutputBase() = default;
 
-UMoviePipelineImageSequenceOutput_BMP::UMoviePipelineImageSequenceOutput_BMP() = default;
+void UMoviePipelineImageSequenceOutputBase::OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame)
+{
+	const UMoviePipeline* Pipeline = GetPipeline();
+	const UMoviePipelinePrimaryConfig* Config = Pipeline ? Pipeline->GetPipelinePrimaryConfig() : nullptr;
+	const UMoviePipelineOutputSetting* OutputSettings = Config ? Config->FindSetting<UMoviePipelineOutputSetting>(true) : nullptr;
+	if (!InMergedOutputFrame || !OutputSettings)
+	{
+		return;
+	}
+	FString FileNameFormatString = FPaths::Combine(OutputSettings->OutputDirectory.Path, OutputSettings->FileNameFormat);
+	UE::MoviePipeline::Private::ValidateOutputFormatString(FileNameFormatString, InMergedOutputFrame->ExpectedRenderPasses.Num() > 1);
+
+	const TArray<uint8> ImageBytes = UE::MoviePipeline::StandIn::EncodeFrameImage(OutputFormatExtension);
+	for (const FMoviePipelinePassIdentifier& RenderPass : InMergedOutputFrame->ExpectedRenderPasses)
+	{
+		TMap<FString, FString> FormatOverrides;
+		FormatOverrides.Add(TEXT("render_pass"), RenderPass.Name);
+		FormatOverrides.Add(TEXT("ext"), OutputFormatExtension);
+		FString OutputPath;
+		FMoviePipelineFormatArgs FinalFormatArgs;
+		Pipeline->ResolveFilenameFormatArguments(FileNameFormatString, FormatOverrides, OutputPath, FinalFormatArgs, &InMergedOutputFrame->FrameOutputState);
+		if (!FFileHelper::SaveArrayToFile(ImageBytes, *OutputPath))
+		{
+			UE_LOG(LogMovieRenderPipeline, Error, TEXT("Failed to write image to '%s'."), *OutputPath);
+		}
+	}
+}
+
+UMoviePipelineImageSequenceOutput_BMP::UMoviePipelineImageSequenceOutput_BMP()
+{
+	OutputFormatExtension = TEXT("bmp");
+}
 
 UMoviePipelineImageSequenceOutput_PNG::UMoviePipelineImageSequenceOutput_PNG()
 	: bWriteAlpha(true)
 {
+	OutputFormatExtension = TEXT("png");
 }
 
-UMoviePipelineImageSequenceOutput_JPG::UMoviePipelineImageSequenceOutput_JPG() = default;
+UMoviePipelineImageSequenceOutput_JPG::UMoviePipelineImageSequenceOutput_JPG()
+{
+	OutputFormatExtension = TEXT("jpg");
+}
 
 #if WITH_EDITOR
 FText UMoviePipelineImageSequenceOutput_BMP::GetDisplayText() const

@@ -13,8 +13,14 @@ public:
 	UMoviePipelineImageSequenceOutputBase();
 
 protected:
+	// Writes one file for every render pass of the frame, named as the output setting says.
+	virtual void OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame) override;
+
 	// Whether the format keeps the alpha channel of the frames.
 	virtual bool IsAlphaAllowed() const { return false; }
+
+	// Stand-in choice: the format is kept as its file extension ("png"); the engine keeps an EImageFormat.
+	FString OutputFormatExtension;
 };
 
 UCLASS(MinimalAPI)

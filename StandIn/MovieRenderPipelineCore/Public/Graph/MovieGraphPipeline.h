@@ -1,0 +1,46 @@
+// UMovieGraphPipeline: the pipeline that renders a job configured with a Movie Render Graph.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Misc/DateTime.h"
+#include "MoviePipelineBase.h"
+#include "UObject/ObjectPtr.h"
+
+class UMoviePipelineExecutorJob;
+class UMoviePipelineExecutorShot;
+
+// Stand-in choice: declared with its job-facing queries only; rendering a graph is not offered yet.
+UCLASS(MinimalAPI, BlueprintType)
+class MOVIERENDERPIPELINECORE_API UMovieGraphPipeline : public UMoviePipelineBase
+{
+	VLMR_CLASS_BODY(UMovieGraphPipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMovieGraphPipeline();
+
+	// The copy of the job this pipeline renders.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Graph")
+	UMoviePipelineExecutorJob* GetCurrentJob() const { return CurrentJobDuplicate; }
+
+	// The shots of the job that render (enabled ones).
+	const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& GetActiveShotList() const { return ActiveShotList; }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Graph")
+	int32 GetCurrentShotIndex() const { return CurrentShotIndex; }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Graph")
+	FDateTime GetInitializationTime() const { return InitializationTime; }
+
+protected:
+	virtual void ShutdownImpl(bool bIsError) override;
+
+private:
+	UPROPERTY(Transient)
+	TObjectPtr<UMoviePipelineExecutorJob> CurrentJobDuplicate;
+
+	UPROPERTY(Transient)
+	TArray<TObjectPtr<UMoviePipelineExecutorShot>> ActiveShotList;
+
+	int32 CurrentShotIndex;
+	FDateTime InitializationTime;
+};

@@ -1,0 +1,94 @@
+// UMoviePipeline: the legacy pipeline. It renders one job, shot after shot, one output frame per engine tick, and
+// hands every frame to the job's outputs.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Containers/Map.h"
+#include "Misc/DateTime.h"
+#include "Misc/FrameRate.h"
+#include "MoviePipelineBase.h"
+#include "MoviePipelineQueue.h"
+#include "Tickable.h"
+#include "UObject/ObjectPtr.h"
+#include "UObject/WeakObjectPtrTemplates.h"
+
+class UMoviePipelineOutputSetting;
+class UMoviePipelinePrimaryConfig;
+
+UCLASS(MinimalAPI, BlueprintType)
+class MOVIERENDERPIPELINECORE_API UMoviePipeline : public UMoviePipelineBase, public FTickableGameObject
+{
+	VLMR_CLASS_BODY(UMoviePipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipeline();
+
+	// Prepares the render of the job: its shot list, frame ranges and output version. Rendering starts at the next tick.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	void Initialize(UMoviePipelineExecutorJob* InJob);
+
+	// Stand-in choice: the job is held weakly, so a job deleted and collected mid-render makes the render fail.
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	UMoviePipelineExecutorJob* GetCurrentJob() const { return CurrentJob.Get(); }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	int32 GetCurrentShotIndex() const { return FMath::Min(CurrentShotIndex, FMath::Max(ActiveShots.Num() - 1, 0)); }
+
+	// The enabled shots of the job, in render order; shots collected since Initialize are left out.
+	const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& GetActiveShotList() const;
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	UMoviePipelinePrimaryConfig* GetPipelinePrimaryConfig() const;
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	FDateTime GetInitializationTime() const { return InitializationTime; }
+
+	// Resolves InFormatString ({token}s from the job, its configuration, the output state and InFormatOverrides; unknown
+	// tokens stay as written) into OutFinalPath, made unique with {file_dup} when existing files must not be overwritten.
+	// Stand-in choice: the overrides are plain strings; the engine takes FStringFormatNamedArguments.
+	void ResolveFilenameFormatArguments(const FString& InFormatString, const TMap<FString, FString>& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState = nullptr, const int32 InFrameNumberOffset = 0) const;
+
+	// FTickableGameObject: each tick renders one output frame.
+	virtual void Tick(float DeltaTime) override;
+	virtual bool IsTickable() const override;
+	virtual bool IsTickableInEditor() const override { return true; }
+
+protected:
+	virtual void ShutdownImpl(bool bIsError) override;
+
+private:
+	friend class UMoviePipelineBlueprintLibrary;
+
+	// One shot to render: its frames at the output frame rate, [StartFrame, StartFrame + NumFrames).
+	struct FActiveShot
+	{
+		TWeakObjectPtr<UMoviePipelineExecutorShot> Shot;
+		int32 StartFrame = 0;
+		int32 NumFrames = 0;
+	};
+
+	bool GatherActiveShots();
+	int32 ResolveVersionNumber() const;
+	void TickProducingFrames();
+	void RenderFrame(UMoviePipelineExecutorShot& InShot, const FActiveShot& InActiveShot);
+	void AdvanceToNextShot();
+	void SetShotState(int32 InShotIndex, EMovieRenderShotState InState);
+	void UpdateJobProgress();
+	void FinishRender();
+	void TransitionToState(EMovieRenderPipelineState InNewState);
+	void BroadcastWorkFinished();
+	void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const;
+	UMoviePipelineOutputSetting* GetOutputSetting() const;
+
+	TWeakObjectPtr<UMoviePipelineExecutorJob> CurrentJob;
+	TArray<FActiveShot> ActiveShots;
+	mutable TArray<TObjectPtr<UMoviePipelineExecutorShot>> ActiveShotList;
+	int32 CurrentShotIndex;
+	int32 CurrentFrameInShot;
+	int32 OutputFrameCount;
+	int32 TotalOutputFrames;
+	FFrameRate EffectiveFrameRate;
+	FDateTime InitializationTime;
+	int32 InitializationVersion;
+	bool bFatalError;
+};

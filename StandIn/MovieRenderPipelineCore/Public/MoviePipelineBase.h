@@ -1,0 +1,52 @@
+// UMoviePipelineBase: what every pipeline (legacy and graph) offers its executor: its state and a way to stop it.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Delegates/Delegate.h"
+#include "MovieRenderPipelineDataTypes.h"
+#include "UObject/Object.h"
+
+DECLARE_MULTICAST_DELEGATE_OneParam(FMoviePipelineWorkFinishedNative, FMoviePipelineOutputData);
+
+UCLASS(MinimalAPI, BlueprintType, Abstract)
+class MOVIERENDERPIPELINECORE_API UMoviePipelineBase : public UObject
+{
+	VLMR_CLASS_BODY(UMoviePipelineBase, UObject, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UMoviePipelineBase();
+
+	// Asks the pipeline to stop at its next opportunity; work already done is still written. Does not block.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	void RequestShutdown(bool bIsError = false) { RequestShutdownImpl(bIsError); }
+
+	// Stops the pipeline now: it finishes what it wrote and reports its work finished before returning.
+	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
+	void Shutdown(bool bIsError = false) { ShutdownImpl(bIsError); }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	bool IsShutdownRequested() const { return IsShutdownRequestedImpl(); }
+
+	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
+	EMovieRenderPipelineState GetPipelineState() const { return GetPipelineStateImpl(); }
+
+	// Told once, when the whole job is done (successfully or not).
+	FMoviePipelineWorkFinishedNative& OnMoviePipelineWorkFinished() { return OnMoviePipelineWorkFinishedDelegateNative; }
+	// Told after each shot is done.
+	FMoviePipelineWorkFinishedNative& OnMoviePipelineShotWorkFinished() { return OnMoviePipelineShotWorkFinishedDelegateNative; }
+
+protected:
+	virtual void RequestShutdownImpl(bool bIsError);
+	virtual void ShutdownImpl(bool bIsError) PURE_VIRTUAL(UMoviePipelineBase::ShutdownImpl, );
+	virtual bool IsShutdownRequestedImpl() const { return bShutdownRequested; }
+	virtual EMovieRenderPipelineState GetPipelineStateImpl() const { return PipelineState; }
+
+	EMovieRenderPipelineState PipelineState;
+	bool bShutdownRequested;
+	// Whether a shutdown was asked for because of an error.
+	bool bShutdownErrorRequested;
+
+private:
+	FMoviePipelineWorkFinishedNative OnMoviePipelineWorkFinishedDelegateNative;
+	FMoviePipelineWorkFinishedNative OnMoviePipelineShotWorkFinishedDelegateNative;
+};
