@@ -111,8 +111,7 @@ namespace VLMR
 		return PrefixGameRoot(ToFString(Utf8Path));
 	}
 
-	// The queue subsystem when it exists and nothing is rendering; else null after the call's failure line.
-	static UMoviePipelineQueueSubsystem* GetIdleSubsystem(FLuaSessionData& Session, const TCHAR* Label)
+	UMoviePipelineQueueSubsystem* GetIdleSubsystem(FLuaSessionData& Session, const TCHAR* Label)
 	{
 		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
 		if (!Subsystem)
@@ -517,6 +516,11 @@ void BindMovieRenderQueue(sol::state& Lua, FLuaSessionData& Session)
 	Lua.set_function("mrq_allocate_job", [S](sol::this_state L, const std::string& Path) { return AddJobForSequence(L, *S, TEXT("mrq_allocate_job"), Path, true); });
 	Lua.set_function("mrq_duplicate_job", [S](sol::this_state L, int32 Index) { return DuplicateJob(L, *S, Index); });
 	Lua.set_function("mrq_set_job_index", [S](sol::this_state L, int32 From, int32 To) { return SetJobIndex(L, *S, From, To); });
+	Lua.set_function("mrq_render_job", [S](sol::this_state L, sol::object Job) { return RenderJob(L, *S, Job); });
+	Lua.set_function("mrq_render_queue", [S](sol::this_state L) { return RenderQueue(L, *S); });
+	Lua.set_function("mrq_is_rendering", []() { return IsRendering(); });
+	Lua.set_function("mrq_render_progress", [S](sol::this_state L) { return RenderProgress(L, *S); });
+	Lua.set_function("mrq_cancel_render", [S](sol::this_state L, sol::optional<bool> bCancelAll) { return CancelRender(L, *S, bCancelAll.value_or(true)); });
 	Lua.set_function("mrq_delete_job", [S](sol::this_state L, int32 Index) { return DeleteJob(L, *S, Index); });
 	Lua.set_function("mrq_delete_all_jobs", [S](sol::this_state L) { return DeleteAllJobs(L, *S); });
 	Lua.set_function("mrq_list_settings", [S](sol::this_state L, sol::optional<std::string> Filter) { return ListSettings(L, *S, Filter); });

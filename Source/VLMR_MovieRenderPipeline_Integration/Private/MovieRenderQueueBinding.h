@@ -8,6 +8,7 @@
 class FLuaSessionData;
 class UClass;
 class UMovieGraphConfig;
+class UMoviePipelineBase;
 class UMoviePipelineExecutorBase;
 class UMoviePipelineExecutorJob;
 class UMoviePipelinePrimaryConfig;
@@ -21,6 +22,9 @@ namespace VLMR
 {
 	// The editor's queue subsystem, or null when the editor or the subsystem is absent.
 	UMoviePipelineQueueSubsystem* GetQueueSubsystem();
+
+	// The queue subsystem when it exists and nothing is rendering; else null after the call's failure line.
+	UMoviePipelineQueueSubsystem* GetIdleSubsystem(FLuaSessionData& Session, const TCHAR* Label);
 
 	// The subsystem has an active executor and that executor is rendering.
 	bool IsRenderInProgress(const UMoviePipelineQueueSubsystem* Subsystem);
@@ -48,6 +52,16 @@ namespace VLMR
 
 	// The Lua nil of a result.
 	sol::object Nil(sol::state_view Lua);
+
+	// The pipeline an executor is running: read by reflection from a linear executor's "ActiveMoviePipeline".
+	UMoviePipelineBase* FindActivePipeline(UMoviePipelineExecutorBase* Executor);
+
+	// Rendering globals.
+	sol::object RenderQueue(sol::state_view Lua, FLuaSessionData& Session);
+	sol::object RenderJob(sol::state_view Lua, FLuaSessionData& Session, const sol::object& JobHandle);
+	bool IsRendering();
+	sol::object RenderProgress(sol::state_view Lua, FLuaSessionData& Session);
+	sol::object CancelRender(sol::state_view Lua, FLuaSessionData& Session, bool bCancelAll);
 }
 
 sol::table BuildJobHandle(sol::state_view& Lua, UMoviePipelineExecutorJob* Job, FLuaSessionData& Session);
