@@ -78,7 +78,12 @@ end
 check.eq(mrq_is_rendering(), false, "the render finished")
 check.truthy(monotonic, "progress never went back")
 check.truthy(last > 0.99, "progress reached 1")
-check.truthy(next(saw_shots) ~= nil, "per-shot tables named the shots")
+check.eq(saw_shots, {
+	["sh010.CineCameraActor_Wide"] = true,
+	["sh020.CineCameraActor_Close"] = true,
+	["sh030.CineCameraActor_Wide"] = true,
+	["Shot010.CineCameraActor"] = true,
+}, "per-shot tables named every shot of both sequences")
 local after = mrq_get_queue()
 check.eq(after.jobs[1].is_consumed, true, "the executor marked the first job rendered")
 check.eq(after.jobs[2].is_consumed, true, "and the second")
