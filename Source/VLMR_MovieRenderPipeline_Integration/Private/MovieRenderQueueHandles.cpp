@@ -41,20 +41,28 @@ namespace VLMR
 		const FString Prefixed = Name.StartsWith(TEXT("U"), ESearchCase::IgnoreCase) ? Name : TEXT("U") + Name;
 		const FString Unprefixed = Prefixed.RightChop(1);
 
+		// Both passes walk the same enumeration: nothing changes the classes in between.
+		TArray<UClass*> Candidates;
 		for (UObject* Object : EnumerateClasses())
 		{
 			UClass* Class = static_cast<UClass*>(Object);
+			if (IsConcreteSettingClass(Class))
+			{
+				Candidates.Add(Class);
+			}
+		}
+		for (UClass* Class : Candidates)
+		{
 			const FString ClassName = Class->GetName();
-			if (IsConcreteSettingClass(Class) && (ClassName.Equals(Prefixed, ESearchCase::IgnoreCase) || ClassName.Equals(Unprefixed, ESearchCase::IgnoreCase)))
+			if (ClassName.Equals(Prefixed, ESearchCase::IgnoreCase) || ClassName.Equals(Unprefixed, ESearchCase::IgnoreCase))
 			{
 				return Class;
 			}
 		}
 		// Deprecated classes stay findable by name although listings hide them.
-		for (UObject* Object : EnumerateClasses())
+		for (UClass* Class : Candidates)
 		{
-			UClass* Class = static_cast<UClass*>(Object);
-			if (IsConcreteSettingClass(Class) && Class->GetName().Contains(Unprefixed, ESearchCase::IgnoreCase))
+			if (Class->GetName().Contains(Unprefixed, ESearchCase::IgnoreCase))
 			{
 				return Class;
 			}
