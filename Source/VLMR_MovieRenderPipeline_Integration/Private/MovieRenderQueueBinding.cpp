@@ -177,36 +177,28 @@ namespace VLMR
 		return Handle;
 	}
 
-	// The queue of the index-based editing functions, or null after their own failure line.
-	static UMoviePipelineQueue* GetEditableQueue(FLuaSessionData& Session, const TCHAR* Label)
+	// The two groups of queue functions word the same failures differently; both wordings are kept.
+	struct FQueueFailureTexts
 	{
-		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
-		if (!Subsystem)
-		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("subsystem not available"));
-			return nullptr;
-		}
-		UMoviePipelineQueue* Queue = Subsystem->GetQueue();
-		if (!Queue)
-		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("no queue"));
-		}
-		return Queue;
-	}
+		const TCHAR* NoSubsystem;
+		const TCHAR* NoQueue;
+	};
+	static const FQueueFailureTexts EditingFailures = { TEXT("subsystem not available"), TEXT("no queue") };
+	static const FQueueFailureTexts ReadingFailures = { TEXT("Movie Pipeline subsystem not available"), TEXT("no queue available") };
 
-	// The queue of the reading functions, or null after their own failure line.
-	static UMoviePipelineQueue* GetReadableQueue(FLuaSessionData& Session, const TCHAR* Label)
+	// The editor queue, or null after the call's failure line.
+	static UMoviePipelineQueue* GetQueueOrReport(FLuaSessionData& Session, const TCHAR* Label, const FQueueFailureTexts& Failures)
 	{
 		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
 		if (!Subsystem)
 		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Pipeline subsystem not available"));
+			LogLine(Session, ELineKind::Fail, Label, Failures.NoSubsystem);
 			return nullptr;
 		}
 		UMoviePipelineQueue* Queue = Subsystem->GetQueue();
 		if (!Queue)
 		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("no queue available"));
+			LogLine(Session, ELineKind::Fail, Label, Failures.NoQueue);
 		}
 		return Queue;
 	}
@@ -219,7 +211,7 @@ namespace VLMR
 	static sol::object DuplicateJob(sol::state_view Lua, FLuaSessionData& Session, int32 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_duplicate_job");
-		UMoviePipelineQueue* Queue = GetEditableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, EditingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -245,7 +237,7 @@ namespace VLMR
 	static sol::object SetJobIndex(sol::state_view Lua, FLuaSessionData& Session, int32 From, int32 To)
 	{
 		const TCHAR* Label = TEXT("mrq_set_job_index");
-		UMoviePipelineQueue* Queue = GetEditableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, EditingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -269,7 +261,7 @@ namespace VLMR
 	static sol::object DeleteJob(sol::state_view Lua, FLuaSessionData& Session, int32 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_delete_job");
-		UMoviePipelineQueue* Queue = GetEditableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, EditingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -288,7 +280,7 @@ namespace VLMR
 	static sol::object DeleteAllJobs(sol::state_view Lua, FLuaSessionData& Session)
 	{
 		const TCHAR* Label = TEXT("mrq_delete_all_jobs");
-		UMoviePipelineQueue* Queue = GetEditableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, EditingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -335,7 +327,7 @@ namespace VLMR
 	static sol::object GetQueue(sol::state_view Lua, FLuaSessionData& Session)
 	{
 		const TCHAR* Label = TEXT("mrq_get_queue");
-		UMoviePipelineQueue* Queue = GetReadableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, ReadingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -360,7 +352,7 @@ namespace VLMR
 	static sol::object GetJob(sol::state_view Lua, FLuaSessionData& Session, int32 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_get_job");
-		UMoviePipelineQueue* Queue = GetReadableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, ReadingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
@@ -429,7 +421,7 @@ namespace VLMR
 	static sol::object SaveQueue(sol::state_view Lua, FLuaSessionData& Session, const std::string& AssetPath)
 	{
 		const TCHAR* Label = TEXT("mrq_save_queue");
-		UMoviePipelineQueue* Queue = GetReadableQueue(Session, Label);
+		UMoviePipelineQueue* Queue = GetQueueOrReport(Session, Label, ReadingFailures);
 		if (!Queue)
 		{
 			return Nil(Lua);
