@@ -18,4 +18,11 @@ shot:set_enabled(false)
 shot:set_map("/Game/Maps/Main.Main")
 
 check.eq(mrq_save_queue("Queues/Handoff"), true, "saved for the next process")
+
+-- A preset saved with config:save() comes back too.
+editor.create_config("/Game/Presets/Handoff")
+local preset = mrq_open_config("Presets/Handoff")
+preset:find_or_add_setting("AntiAliasing"):set("TemporalSampleCount", "3")
+preset:find_or_add_setting("ConsoleVariable"):add_or_update_console_variable("r.MotionBlurQuality", 4)
+check.eq(preset:save(), true, "preset saved")
 check.summary()
