@@ -6,7 +6,7 @@
 #include "MoviePipelineQueue.h"
 #include "UObject/UnrealType.h"
 
-// The executors and the pipeline are named by path: the stand-in's executors and pipelines come with the render work.
+// The executors and the pipeline are named by path, so the settings need not link the classes they name.
 UMovieRenderPipelineProjectSettings::UMovieRenderPipelineProjectSettings()
 	: DefaultLocalExecutor(TEXT("/Script/MovieRenderPipelineEditor.MoviePipelinePIEExecutor"))
 	, DefaultRemoteExecutor(TEXT("/Script/MovieRenderPipelineEditor.MoviePipelineNewProcessExecutor"))
