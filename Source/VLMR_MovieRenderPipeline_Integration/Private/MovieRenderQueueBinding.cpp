@@ -136,10 +136,9 @@ namespace VLMR
 			return Nil(Lua);
 		}
 		const FString Path = NormalizedArgument(SequencePath);
-		ULevelSequence* Sequence = LoadTypedAsset<ULevelSequence>(Path);
+		ULevelSequence* Sequence = LoadTypedAssetOrReport<ULevelSequence>(Session, Label, TEXT("sequence"), Path);
 		if (!Sequence)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("sequence not found: %s"), *Path));
 			return Nil(Lua);
 		}
 		UMoviePipelineQueue* Queue = Subsystem->GetQueue();
@@ -396,10 +395,9 @@ namespace VLMR
 	{
 		const TCHAR* Label = TEXT("mrq_open_config");
 		const FString Path = NormalizedArgument(AssetPath);
-		UMoviePipelinePrimaryConfig* Config = LoadTypedAsset<UMoviePipelinePrimaryConfig>(Path);
+		UMoviePipelinePrimaryConfig* Config = LoadTypedAssetOrReport<UMoviePipelinePrimaryConfig>(Session, Label, TEXT("config asset"), Path);
 		if (!Config)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("config asset not found: %s"), *Path));
 			return Nil(Lua);
 		}
 		LogLine(Session, ELineKind::Ok, Label, Path);
@@ -478,10 +476,9 @@ namespace VLMR
 			return Nil(Lua);
 		}
 		const FString Path = NormalizedArgument(AssetPath);
-		UMoviePipelineQueue* Asset = LoadTypedAsset<UMoviePipelineQueue>(Path);
+		UMoviePipelineQueue* Asset = LoadTypedAssetOrReport<UMoviePipelineQueue>(Session, Label, TEXT("queue asset"), Path);
 		if (!Asset)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("queue asset not found: %s"), *Path));
 			return Nil(Lua);
 		}
 		UMoviePipelineQueue* Queue = Subsystem->GetQueue();

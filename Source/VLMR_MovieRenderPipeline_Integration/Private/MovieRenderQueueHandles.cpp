@@ -209,10 +209,9 @@ namespace VLMR
 			return Nil(Lua);
 		}
 		const FString Path = PrefixGameRoot(ToFString(AssetPath));
-		UMoviePipelinePrimaryConfig* Preset = LoadTypedAsset<UMoviePipelinePrimaryConfig>(Path);
+		UMoviePipelinePrimaryConfig* Preset = LoadTypedAssetOrReport<UMoviePipelinePrimaryConfig>(Session, Label, TEXT("config asset"), Path);
 		if (!Preset)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("config asset not found: %s"), *Path));
 			return Nil(Lua);
 		}
 		Job->SetPresetOrigin(Preset);
@@ -229,10 +228,9 @@ namespace VLMR
 			return Nil(Lua);
 		}
 		const FString Path = PrefixGameRoot(ToFString(AssetPath));
-		UMovieGraphConfig* Graph = LoadTypedAsset<UMovieGraphConfig>(Path);
+		UMovieGraphConfig* Graph = LoadTypedAssetOrReport<UMovieGraphConfig>(Session, Label, TEXT("graph asset"), Path);
 		if (!Graph)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("graph asset not found: %s"), *Path));
 			return Nil(Lua);
 		}
 		Job->SetGraphPreset(Graph, bUpdateVariableAssignments);

@@ -144,6 +144,11 @@ namespace VLMR
 		return StaticLoadObject(Class, nullptr, *ObjectPath, nullptr, LOAD_None, nullptr, true);
 	}
 
+	void ReportAssetNotFound(FLuaSessionData& Session, const FString& Label, const TCHAR* What, const FString& Path)
+	{
+		LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("%s not found: %s"), What, *Path));
+	}
+
 	static FString ContractError(const TCHAR* OwnerLabel, const FString& Detail)
 	{
 		return FString::Printf(TEXT("%s reflection contract changed: %s"), OwnerLabel ? OwnerLabel : TEXT("Engine"), *Detail);

@@ -74,6 +74,21 @@ namespace VLMR
 		return static_cast<T*>(LoadTypedAsset(T::StaticClass(), Path));
 	}
 
+	// Logs "[FAIL] <label> -> <what> not found: <path>".
+	void ReportAssetNotFound(FLuaSessionData& Session, const FString& Label, const TCHAR* What, const FString& Path);
+
+	// A script-named asset loaded with LoadTypedAsset; a miss logs "[FAIL] <label> -> <what> not found: <path>".
+	template<class T>
+	T* LoadTypedAssetOrReport(FLuaSessionData& Session, const FString& Label, const TCHAR* What, const FString& Path)
+	{
+		T* Asset = LoadTypedAsset<T>(Path);
+		if (!Asset)
+		{
+			ReportAssetNotFound(Session, Label, What, Path);
+		}
+		return Asset;
+	}
+
 	// One parameter a reflected function must have: its name and the property class it must be (or derive from).
 	struct FParameterRequirement
 	{
