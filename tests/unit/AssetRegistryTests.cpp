@@ -17,23 +17,23 @@
 
 class UAssetRegistryTestAsset : public UObject
 {
-	VLMR_CLASS_BODY(UAssetRegistryTestAsset, UObject, )
+	STANDIN_CLASS_BODY(UAssetRegistryTestAsset, UObject, )
 
 public:
 	int32 Number = 0;
 };
 
-VLMR_IMPLEMENT_CLASS(UAssetRegistryTestAsset, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UAssetRegistryTestAsset, CLASS_None, "VlmrUnitTests")
 {
-	VLMR_PROPERTY(Number, CPF_Edit);
+	STANDIN_PROPERTY(Number, CPF_Edit);
 }
 
 class UAssetRegistryTestDerivedAsset : public UAssetRegistryTestAsset
 {
-	VLMR_CLASS_BODY(UAssetRegistryTestDerivedAsset, UAssetRegistryTestAsset, )
+	STANDIN_CLASS_BODY(UAssetRegistryTestDerivedAsset, UAssetRegistryTestAsset, )
 };
 
-VLMR_IMPLEMENT_CLASS(UAssetRegistryTestDerivedAsset, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UAssetRegistryTestDerivedAsset, CLASS_None, "VlmrUnitTests")
 {
 }
 

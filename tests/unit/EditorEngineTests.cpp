@@ -28,7 +28,7 @@ namespace EditorEngineTests
 
 class UEditorEngineTestSubsystem : public UEditorSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestSubsystem, UEditorSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestSubsystem, UEditorSubsystem, )
 
 public:
 	void Initialize(FSubsystemCollectionBase& Collection) override
@@ -42,14 +42,14 @@ public:
 	}
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestSubsystem, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestSubsystem, CLASS_None, "VlmrUnitTests")
 {
 }
 
 // Initializes the subsystem above as a dependency before itself, whatever the class order.
 class UEditorEngineTestDependentSubsystem : public UEditorSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestDependentSubsystem, UEditorSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestDependentSubsystem, UEditorSubsystem, )
 
 public:
 	void Initialize(FSubsystemCollectionBase& Collection) override
@@ -61,46 +61,46 @@ public:
 	UEditorEngineTestSubsystem* Dependency = nullptr;
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestDependentSubsystem, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestDependentSubsystem, CLASS_None, "VlmrUnitTests")
 {
 }
 
 class UEditorEngineTestAbstractSubsystem : public UEditorSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestAbstractSubsystem, UEditorSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestAbstractSubsystem, UEditorSubsystem, )
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestAbstractSubsystem, CLASS_Abstract, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestAbstractSubsystem, CLASS_Abstract, "VlmrUnitTests")
 {
 }
 
 class UEditorEngineTestConcreteSubsystem : public UEditorEngineTestAbstractSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestConcreteSubsystem, UEditorEngineTestAbstractSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestConcreteSubsystem, UEditorEngineTestAbstractSubsystem, )
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestConcreteSubsystem, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestConcreteSubsystem, CLASS_None, "VlmrUnitTests")
 {
 }
 
 class UEditorEngineTestDeclinedSubsystem : public UEditorSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestDeclinedSubsystem, UEditorSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestDeclinedSubsystem, UEditorSubsystem, )
 
 public:
 	bool ShouldCreateSubsystem(UObject* Outer) const override { return false; }
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestDeclinedSubsystem, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestDeclinedSubsystem, CLASS_None, "VlmrUnitTests")
 {
 }
 
 class UEditorEngineTestEngineSubsystem : public UEngineSubsystem
 {
-	VLMR_CLASS_BODY(UEditorEngineTestEngineSubsystem, UEngineSubsystem, )
+	STANDIN_CLASS_BODY(UEditorEngineTestEngineSubsystem, UEngineSubsystem, )
 };
 
-VLMR_IMPLEMENT_CLASS(UEditorEngineTestEngineSubsystem, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEditorEngineTestEngineSubsystem, CLASS_None, "VlmrUnitTests")
 {
 }
 

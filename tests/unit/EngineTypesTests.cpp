@@ -9,10 +9,10 @@
 
 class UEngineTypesTestSettings : public UDeveloperSettings
 {
-	VLMR_CLASS_BODY(UEngineTypesTestSettings, UDeveloperSettings, )
+	STANDIN_CLASS_BODY(UEngineTypesTestSettings, UDeveloperSettings, )
 };
 
-VLMR_IMPLEMENT_CLASS(UEngineTypesTestSettings, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UEngineTypesTestSettings, CLASS_None, "VlmrUnitTests")
 {
 }
 

@@ -22,14 +22,14 @@
 // A setting the engine would only accept on shots, to see the primary configuration refuse it.
 class UMoviePipelineTestShotOnlySetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineTestShotOnlySetting, UMoviePipelineSetting, )
+	STANDIN_CLASS_BODY(UMoviePipelineTestShotOnlySetting, UMoviePipelineSetting, )
 
 public:
 	virtual bool IsValidOnShots() const override { return true; }
 	virtual bool IsValidOnPrimary() const override { return false; }
 };
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineTestShotOnlySetting, CLASS_None, "MovieRenderQueueTests")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineTestShotOnlySetting, CLASS_None, "MovieRenderQueueTests")
 {
 }
 

@@ -21,7 +21,7 @@
 // An executor that is rendering from Execute until it is told to finish.
 class UMoviePipelineTestExecutor : public UMoviePipelineExecutorBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineTestExecutor, UMoviePipelineExecutorBase, )
+	STANDIN_CLASS_BODY(UMoviePipelineTestExecutor, UMoviePipelineExecutorBase, )
 
 public:
 	void FinishWithFatalError()
@@ -45,7 +45,7 @@ protected:
 	virtual void CancelAllJobs_Implementation() override {}
 };
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineTestExecutor, CLASS_None, "MovieRenderQueueTests")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineTestExecutor, CLASS_None, "MovieRenderQueueTests")
 {
 }
 

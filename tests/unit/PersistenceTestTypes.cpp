@@ -3,32 +3,32 @@
 #include "UObject/GCObject.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_STRUCT(FPersistenceTestStruct, "PersistenceTests")
+STANDIN_IMPLEMENT_STRUCT(FPersistenceTestStruct, "PersistenceTests")
 {
-	VLMR_PROPERTY(Value, CPF_Edit);
-	VLMR_PROPERTY(Reference, CPF_Edit);
+	STANDIN_PROPERTY(Value, CPF_Edit);
+	STANDIN_PROPERTY(Reference, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_CLASS(UPersistenceTestObject, CLASS_None, "PersistenceTests")
+STANDIN_IMPLEMENT_CLASS(UPersistenceTestObject, CLASS_None, "PersistenceTests")
 {
-	VLMR_PROPERTY(Number, CPF_Edit);
-	VLMR_PROPERTY(Text, CPF_Edit);
-	VLMR_PROPERTY(Ratio, CPF_Edit);
-	VLMR_PROPERTY(bFlag, CPF_Edit);
-	VLMR_PROPERTY(Numbers, CPF_Edit);
-	VLMR_PROPERTY(Reference, CPF_Edit);
-	VLMR_PROPERTY(ReferenceArray, CPF_Edit);
-	VLMR_PROPERTY(ReferenceMap, CPF_Edit);
-	VLMR_PROPERTY(Struct, CPF_Edit);
-	VLMR_PROPERTY(WeakReference, CPF_Edit);
-	VLMR_PROPERTY(SoftPath, CPF_Edit);
-	VLMR_PROPERTY(SoftReference, CPF_Edit);
-	VLMR_PROPERTY(TransientNumber, CPF_Transient);
+	STANDIN_PROPERTY(Number, CPF_Edit);
+	STANDIN_PROPERTY(Text, CPF_Edit);
+	STANDIN_PROPERTY(Ratio, CPF_Edit);
+	STANDIN_PROPERTY(bFlag, CPF_Edit);
+	STANDIN_PROPERTY(Numbers, CPF_Edit);
+	STANDIN_PROPERTY(Reference, CPF_Edit);
+	STANDIN_PROPERTY(ReferenceArray, CPF_Edit);
+	STANDIN_PROPERTY(ReferenceMap, CPF_Edit);
+	STANDIN_PROPERTY(Struct, CPF_Edit);
+	STANDIN_PROPERTY(WeakReference, CPF_Edit);
+	STANDIN_PROPERTY(SoftPath, CPF_Edit);
+	STANDIN_PROPERTY(SoftReference, CPF_Edit);
+	STANDIN_PROPERTY(TransientNumber, CPF_Transient);
 }
 
-VLMR_IMPLEMENT_CLASS(UPersistenceTestOwner, CLASS_None, "PersistenceTests")
+STANDIN_IMPLEMENT_CLASS(UPersistenceTestOwner, CLASS_None, "PersistenceTests")
 {
-	VLMR_PROPERTY(Inner, CPF_Edit | CPF_InstancedReference);
+	STANDIN_PROPERTY(Inner, CPF_Edit | CPF_InstancedReference);
 }
 
 UPersistenceTestOwner::UPersistenceTestOwner()
@@ -36,7 +36,7 @@ UPersistenceTestOwner::UPersistenceTestOwner()
 	Inner = CreateDefaultSubobject<UPersistenceTestObject>(TEXT("Inner"));
 }
 
-VLMR_IMPLEMENT_CLASS(UPersistenceTestTracked, CLASS_None, "PersistenceTests")
+STANDIN_IMPLEMENT_CLASS(UPersistenceTestTracked, CLASS_None, "PersistenceTests")
 {
 }
 
@@ -79,7 +79,7 @@ void UPersistenceTestTracked::ResetCounters()
 	NumDestructed = 0;
 }
 
-VLMR_IMPLEMENT_CLASS(UPersistenceTestNativeHolder, CLASS_None, "PersistenceTests")
+STANDIN_IMPLEMENT_CLASS(UPersistenceTestNativeHolder, CLASS_None, "PersistenceTests")
 {
 }
 

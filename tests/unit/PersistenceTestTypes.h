@@ -10,7 +10,7 @@
 
 struct FPersistenceTestStruct
 {
-	VLMR_STRUCT_BODY(FPersistenceTestStruct, )
+	STANDIN_STRUCT_BODY(FPersistenceTestStruct, )
 
 public:
 	int32 Value = 0;
@@ -19,7 +19,7 @@ public:
 
 class UPersistenceTestObject : public UObject
 {
-	VLMR_CLASS_BODY(UPersistenceTestObject, UObject, )
+	STANDIN_CLASS_BODY(UPersistenceTestObject, UObject, )
 
 public:
 	int32 Number = 0;
@@ -40,7 +40,7 @@ public:
 /** Creates a default subobject named "Inner" and points Reference at it. */
 class UPersistenceTestOwner : public UPersistenceTestObject
 {
-	VLMR_CLASS_BODY(UPersistenceTestOwner, UPersistenceTestObject, )
+	STANDIN_CLASS_BODY(UPersistenceTestOwner, UPersistenceTestObject, )
 
 public:
 	UPersistenceTestOwner();
@@ -51,7 +51,7 @@ public:
 /** Counts its destruction steps, and its PostLoad calls. */
 class UPersistenceTestTracked : public UObject
 {
-	VLMR_CLASS_BODY(UPersistenceTestTracked, UObject, )
+	STANDIN_CLASS_BODY(UPersistenceTestTracked, UObject, )
 
 public:
 	virtual ~UPersistenceTestTracked() override;
@@ -71,7 +71,7 @@ public:
 /** Keeps its Held object alive through the class's AddReferencedObjects, not through a reflected property. */
 class UPersistenceTestNativeHolder : public UObject
 {
-	VLMR_CLASS_BODY(UPersistenceTestNativeHolder, UObject, )
+	STANDIN_CLASS_BODY(UPersistenceTestNativeHolder, UObject, )
 
 public:
 	UObject* Held = nullptr;

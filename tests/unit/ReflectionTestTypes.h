@@ -17,7 +17,7 @@ enum class EReflectionTestMode : uint8
 	Second,
 	Third,
 };
-VLMR_DECLARE_ENUM(EReflectionTestMode, )
+STANDIN_DECLARE_ENUM(EReflectionTestMode, )
 
 enum EReflectionTestLegacy
 {
@@ -25,12 +25,12 @@ enum EReflectionTestLegacy
 	RTL_Low,
 	RTL_High,
 };
-VLMR_DECLARE_ENUM(EReflectionTestLegacy, )
+STANDIN_DECLARE_ENUM(EReflectionTestLegacy, )
 
 // Like the engine's FDirectoryPath: one string field.
 struct FReflectionTestPath
 {
-	VLMR_STRUCT_BODY(FReflectionTestPath, )
+	STANDIN_STRUCT_BODY(FReflectionTestPath, )
 
 public:
 	FString Path;
@@ -39,7 +39,7 @@ public:
 // Like a console variable entry: a default-constructed element is (Name="", Value=0, bIsEnabled=True).
 struct FReflectionTestEntry
 {
-	VLMR_STRUCT_BODY(FReflectionTestEntry, )
+	STANDIN_STRUCT_BODY(FReflectionTestEntry, )
 
 public:
 	FString Name;
@@ -50,7 +50,7 @@ public:
 // A scalar with a zero default and a struct field with a non-zero default.
 struct FReflectionTestOuter
 {
-	VLMR_STRUCT_BODY(FReflectionTestOuter, )
+	STANDIN_STRUCT_BODY(FReflectionTestOuter, )
 
 public:
 	int32 A = 0;
@@ -60,7 +60,7 @@ public:
 // A struct holding a nested struct and an array of structs.
 struct FReflectionTestNested
 {
-	VLMR_STRUCT_BODY(FReflectionTestNested, )
+	STANDIN_STRUCT_BODY(FReflectionTestNested, )
 
 public:
 	FReflectionTestEntry Inner;
@@ -71,7 +71,7 @@ public:
 // Transient and deprecated fields next to a plain one.
 struct FReflectionTestPortable
 {
-	VLMR_STRUCT_BODY(FReflectionTestPortable, )
+	STANDIN_STRUCT_BODY(FReflectionTestPortable, )
 
 public:
 	int32 Kept = 1;
@@ -81,7 +81,7 @@ public:
 
 class UReflectionTestObject : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestObject, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestObject, UObject, )
 
 public:
 	bool bFlag = false;
@@ -122,7 +122,7 @@ public:
 
 class UReflectionTestComponent : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestComponent, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestComponent, UObject, )
 
 public:
 	int32 Value = 7;
@@ -131,7 +131,7 @@ public:
 // Creates its "Component" default subobject in its constructor.
 class UReflectionTestDerived : public UReflectionTestObject
 {
-	VLMR_CLASS_BODY(UReflectionTestDerived, UReflectionTestObject, )
+	STANDIN_CLASS_BODY(UReflectionTestDerived, UReflectionTestObject, )
 
 public:
 	UReflectionTestDerived();
@@ -142,7 +142,7 @@ public:
 
 class UReflectionTestAbstract : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestAbstract, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestAbstract, UObject, )
 
 public:
 	virtual int32 GetKind() const PURE_VIRTUAL(UReflectionTestAbstract::GetKind, return 0;);
@@ -150,13 +150,13 @@ public:
 
 class UReflectionTestDeprecated : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestDeprecated, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestDeprecated, UObject, )
 };
 
 // Functions of every parameter shape, callable through ProcessEvent.
 class UReflectionTestFunctions : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestFunctions, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestFunctions, UObject, )
 
 public:
 	int32 Add(int32 A, int32 B) const { return A + B; }
@@ -175,7 +175,7 @@ public:
 // A struct deriving from another reflected struct.
 struct FReflectionTestDerivedEntry : public FReflectionTestEntry
 {
-	VLMR_STRUCT_BODY(FReflectionTestDerivedEntry, )
+	STANDIN_STRUCT_BODY(FReflectionTestDerivedEntry, )
 
 public:
 	int32 Priority = 0;
@@ -183,7 +183,7 @@ public:
 
 class UReflectionTestSpecialComponent : public UReflectionTestComponent
 {
-	VLMR_CLASS_BODY(UReflectionTestSpecialComponent, UReflectionTestComponent, )
+	STANDIN_CLASS_BODY(UReflectionTestSpecialComponent, UReflectionTestComponent, )
 
 public:
 	UReflectionTestSpecialComponent() { Value = 99; }
@@ -192,7 +192,7 @@ public:
 // Builds its subobjects through the FObjectInitializer its constructor receives.
 class UReflectionTestWithInitializer : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestWithInitializer, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestWithInitializer, UObject, )
 
 public:
 	explicit UReflectionTestWithInitializer(const FObjectInitializer& ObjectInitializer);
@@ -205,7 +205,7 @@ public:
 // Replaces the class of "Component" and skips "Optional".
 class UReflectionTestInitializerOverrides : public UReflectionTestWithInitializer
 {
-	VLMR_CLASS_BODY(UReflectionTestInitializerOverrides, UReflectionTestWithInitializer, )
+	STANDIN_CLASS_BODY(UReflectionTestInitializerOverrides, UReflectionTestWithInitializer, )
 
 public:
 	explicit UReflectionTestInitializerOverrides(const FObjectInitializer& ObjectInitializer);
@@ -214,7 +214,7 @@ public:
 // Records the lifetime and editing hooks the object system calls.
 class UReflectionTestLifecycle : public UObject
 {
-	VLMR_CLASS_BODY(UReflectionTestLifecycle, UObject, )
+	STANDIN_CLASS_BODY(UReflectionTestLifecycle, UObject, )
 
 public:
 	void PostInitProperties() override;
@@ -232,5 +232,5 @@ public:
 
 class UReflectionTestDeprecatedChild : public UReflectionTestDeprecated
 {
-	VLMR_CLASS_BODY(UReflectionTestDeprecatedChild, UReflectionTestDeprecated, )
+	STANDIN_CLASS_BODY(UReflectionTestDeprecatedChild, UReflectionTestDeprecated, )
 };

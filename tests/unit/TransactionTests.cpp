@@ -15,7 +15,7 @@
 
 class UTransactionTestObject : public UObject
 {
-	VLMR_CLASS_BODY(UTransactionTestObject, UObject, )
+	STANDIN_CLASS_BODY(UTransactionTestObject, UObject, )
 
 public:
 	void PostEditUndo() override
@@ -33,14 +33,14 @@ public:
 	int32 PostEditUndoCalls = 0;
 };
 
-VLMR_IMPLEMENT_CLASS(UTransactionTestObject, CLASS_None, "VlmrUnitTests")
+STANDIN_IMPLEMENT_CLASS(UTransactionTestObject, CLASS_None, "VlmrUnitTests")
 {
-	VLMR_PROPERTY(Value, CPF_Edit);
-	VLMR_PROPERTY(Label, CPF_Edit);
-	VLMR_PROPERTY(Numbers, CPF_Edit);
-	VLMR_PROPERTY(Reference, CPF_Edit);
-	VLMR_PROPERTY(TransientValue, CPF_Edit | CPF_Transient);
-	VLMR_PROPERTY(NonTransactionalValue, CPF_Edit | CPF_NonTransactional);
+	STANDIN_PROPERTY(Value, CPF_Edit);
+	STANDIN_PROPERTY(Label, CPF_Edit);
+	STANDIN_PROPERTY(Numbers, CPF_Edit);
+	STANDIN_PROPERTY(Reference, CPF_Edit);
+	STANDIN_PROPERTY(TransientValue, CPF_Edit | CPF_Transient);
+	STANDIN_PROPERTY(NonTransactionalValue, CPF_Edit | CPF_NonTransactional);
 }
 
 class FTransactionTest : public ::testing::Test

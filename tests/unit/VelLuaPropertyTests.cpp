@@ -15,29 +15,29 @@ enum class EVelTestMode : uint8
 	Second,
 	Third = 5,
 };
-VLMR_DECLARE_ENUM(EVelTestMode, )
-VLMR_IMPLEMENT_ENUM(EVelTestMode, "VelmireAITests", First, Second, Third)
+STANDIN_DECLARE_ENUM(EVelTestMode, )
+STANDIN_IMPLEMENT_ENUM(EVelTestMode, "VelmireAITests", First, Second, Third)
 
 USTRUCT()
 struct FVelTestInner
 {
-	VLMR_STRUCT_BODY(FVelTestInner, )
+	STANDIN_STRUCT_BODY(FVelTestInner, )
 
 public:
 	int32 Count = 0;
 	FString Label;
 };
 
-VLMR_IMPLEMENT_STRUCT(FVelTestInner, "VelmireAITests")
+STANDIN_IMPLEMENT_STRUCT(FVelTestInner, "VelmireAITests")
 {
-	VLMR_PROPERTY(Count, CPF_Edit);
-	VLMR_PROPERTY(Label, CPF_Edit);
+	STANDIN_PROPERTY(Count, CPF_Edit);
+	STANDIN_PROPERTY(Label, CPF_Edit);
 }
 
 USTRUCT()
 struct FVelTestValues
 {
-	VLMR_STRUCT_BODY(FVelTestValues, )
+	STANDIN_STRUCT_BODY(FVelTestValues, )
 
 public:
 	int8 Tiny = 0;
@@ -56,22 +56,22 @@ public:
 	FVelTestInner Inner;
 };
 
-VLMR_IMPLEMENT_STRUCT(FVelTestValues, "VelmireAITests")
+STANDIN_IMPLEMENT_STRUCT(FVelTestValues, "VelmireAITests")
 {
-	VLMR_PROPERTY(Tiny, CPF_Edit);
-	VLMR_PROPERTY(Byte, CPF_Edit);
-	VLMR_PROPERTY(Count, CPF_Edit);
-	VLMR_PROPERTY(Unsigned, CPF_Edit);
-	VLMR_PROPERTY(Big, CPF_Edit);
-	VLMR_PROPERTY(Ratio, CPF_Edit);
-	VLMR_PROPERTY(Precise, CPF_Edit);
-	VLMR_PROPERTY(bEnabled, CPF_Edit);
-	VLMR_PROPERTY(Name, CPF_Edit);
-	VLMR_PROPERTY(Size, CPF_Edit);
-	VLMR_PROPERTY(Numbers, CPF_Edit);
-	VLMR_PROPERTY(Items, CPF_Edit);
-	VLMR_PROPERTY(Mode, CPF_Edit);
-	VLMR_PROPERTY(Inner, CPF_Edit);
+	STANDIN_PROPERTY(Tiny, CPF_Edit);
+	STANDIN_PROPERTY(Byte, CPF_Edit);
+	STANDIN_PROPERTY(Count, CPF_Edit);
+	STANDIN_PROPERTY(Unsigned, CPF_Edit);
+	STANDIN_PROPERTY(Big, CPF_Edit);
+	STANDIN_PROPERTY(Ratio, CPF_Edit);
+	STANDIN_PROPERTY(Precise, CPF_Edit);
+	STANDIN_PROPERTY(bEnabled, CPF_Edit);
+	STANDIN_PROPERTY(Name, CPF_Edit);
+	STANDIN_PROPERTY(Size, CPF_Edit);
+	STANDIN_PROPERTY(Numbers, CPF_Edit);
+	STANDIN_PROPERTY(Items, CPF_Edit);
+	STANDIN_PROPERTY(Mode, CPF_Edit);
+	STANDIN_PROPERTY(Inner, CPF_Edit);
 }
 
 namespace

@@ -39,7 +39,7 @@ DECLARE_MULTICAST_DELEGATE_OneParam(FWeakTestMulticastDelegate, int32);
 
 class UWeakPtrTestListener : public UObject
 {
-	VLMR_CLASS_BODY(UWeakPtrTestListener, UObject, )
+	STANDIN_CLASS_BODY(UWeakPtrTestListener, UObject, )
 
 public:
 	int32 Received = 0;
@@ -47,7 +47,7 @@ public:
 	void Receive(int32 Value) { Received += Value; }
 };
 
-VLMR_IMPLEMENT_CLASS(UWeakPtrTestListener, CLASS_None, "PersistenceTests")
+STANDIN_IMPLEMENT_CLASS(UWeakPtrTestListener, CLASS_None, "PersistenceTests")
 {
 }
 

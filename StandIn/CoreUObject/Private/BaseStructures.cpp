@@ -38,64 +38,64 @@ namespace
 	}
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FIntPoint, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FIntPoint, "CoreUObject")
 {
-	VLMR_PROPERTY(X, CPF_Edit);
-	VLMR_PROPERTY(Y, CPF_Edit);
+	STANDIN_PROPERTY(X, CPF_Edit);
+	STANDIN_PROPERTY(Y, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FIntRect, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FIntRect, "CoreUObject")
 {
-	VLMR_PROPERTY(Min, CPF_Edit);
-	VLMR_PROPERTY(Max, CPF_Edit);
+	STANDIN_PROPERTY(Min, CPF_Edit);
+	STANDIN_PROPERTY(Max, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FVector2D, "CoreUObject")
-{
-	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
-	VLMR_PROPERTY(X, CPF_Edit);
-	VLMR_PROPERTY(Y, CPF_Edit);
-}
-
-VLMR_IMPLEMENT_BASE_STRUCTURE(FLinearColor, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FVector2D, "CoreUObject")
 {
 	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
-	VLMR_PROPERTY(R, CPF_Edit);
-	VLMR_PROPERTY(G, CPF_Edit);
-	VLMR_PROPERTY(B, CPF_Edit);
-	VLMR_PROPERTY(A, CPF_Edit);
+	STANDIN_PROPERTY(X, CPF_Edit);
+	STANDIN_PROPERTY(Y, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FColor, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FLinearColor, "CoreUObject")
 {
 	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
-	VLMR_PROPERTY(B, CPF_Edit);
-	VLMR_PROPERTY(G, CPF_Edit);
-	VLMR_PROPERTY(R, CPF_Edit);
-	VLMR_PROPERTY(A, CPF_Edit);
+	STANDIN_PROPERTY(R, CPF_Edit);
+	STANDIN_PROPERTY(G, CPF_Edit);
+	STANDIN_PROPERTY(B, CPF_Edit);
+	STANDIN_PROPERTY(A, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FGuid, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FColor, "CoreUObject")
 {
 	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
-	VLMR_PROPERTY(A, CPF_Edit);
-	VLMR_PROPERTY(B, CPF_Edit);
-	VLMR_PROPERTY(C, CPF_Edit);
-	VLMR_PROPERTY(D, CPF_Edit);
+	STANDIN_PROPERTY(B, CPF_Edit);
+	STANDIN_PROPERTY(G, CPF_Edit);
+	STANDIN_PROPERTY(R, CPF_Edit);
+	STANDIN_PROPERTY(A, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FFrameRate, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FGuid, "CoreUObject")
 {
-	VLMR_PROPERTY(Numerator, CPF_Edit);
-	VLMR_PROPERTY(Denominator, CPF_Edit);
+	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
+	STANDIN_PROPERTY(A, CPF_Edit);
+	STANDIN_PROPERTY(B, CPF_Edit);
+	STANDIN_PROPERTY(C, CPF_Edit);
+	STANDIN_PROPERTY(D, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FFrameNumber, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FFrameRate, "CoreUObject")
 {
-	VLMR_PROPERTY(Value, CPF_Edit);
+	STANDIN_PROPERTY(Numerator, CPF_Edit);
+	STANDIN_PROPERTY(Denominator, CPF_Edit);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FDateTime, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FFrameNumber, "CoreUObject")
+{
+	STANDIN_PROPERTY(Value, CPF_Edit);
+}
+
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FDateTime, "CoreUObject")
 {
 	// The only member of FDateTime is its private Ticks count.
 	static_assert(sizeof(FDateTime) == sizeof(int64), "FDateTime holds nothing but its ticks");
@@ -104,14 +104,14 @@ VLMR_IMPLEMENT_BASE_STRUCTURE(FDateTime, "CoreUObject")
 	Builder.SetNativeTextItem(&ExportDateTimeText, &ImportDateTimeText);
 }
 
-VLMR_IMPLEMENT_BASE_STRUCTURE(FTimecode, "CoreUObject")
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FTimecode, "CoreUObject")
 {
-	VLMR_PROPERTY(Hours, CPF_Edit);
-	VLMR_PROPERTY(Minutes, CPF_Edit);
-	VLMR_PROPERTY(Seconds, CPF_Edit);
-	VLMR_PROPERTY(Frames, CPF_Edit);
+	STANDIN_PROPERTY(Hours, CPF_Edit);
+	STANDIN_PROPERTY(Minutes, CPF_Edit);
+	STANDIN_PROPERTY(Seconds, CPF_Edit);
+	STANDIN_PROPERTY(Frames, CPF_Edit);
 #if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
-	VLMR_PROPERTY(Subframe, CPF_Edit);
+	STANDIN_PROPERTY(Subframe, CPF_Edit);
 #endif
-	VLMR_PROPERTY(bDropFrameFormat, CPF_Edit);
+	STANDIN_PROPERTY(bDropFrameFormat, CPF_Edit);
 }

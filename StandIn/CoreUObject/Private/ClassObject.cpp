@@ -5,7 +5,7 @@
 #include "UObject/UnrealType.h"
 #include "UObject/TopLevelAssetPath.h"
 
-VLMR_IMPLEMENT_CLASS(UClass, CLASS_None, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UClass, CLASS_None, "CoreUObject")
 {
 }
 

@@ -5,7 +5,7 @@
 
 DEFINE_LOG_CATEGORY(LogClass);
 
-VLMR_IMPLEMENT_CLASS(UField, CLASS_Abstract, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UField, CLASS_Abstract, "CoreUObject")
 {
 }
 

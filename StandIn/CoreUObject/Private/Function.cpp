@@ -3,7 +3,7 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_CLASS(UFunction, CLASS_None, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UFunction, CLASS_None, "CoreUObject")
 {
 }
 

@@ -8,7 +8,7 @@
 #include "UObject/UObjectArray.h"
 #include "ObjectConstructionContext.h"
 
-VLMR_IMPLEMENT_CLASS(UObject, CLASS_None, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UObject, CLASS_None, "CoreUObject")
 {
 }
 

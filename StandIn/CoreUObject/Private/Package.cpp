@@ -9,7 +9,7 @@
 
 DEFINE_LOG_CATEGORY_STATIC(LogPackage, Log, All);
 
-VLMR_IMPLEMENT_CLASS(UPackage, CLASS_None, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UPackage, CLASS_None, "CoreUObject")
 {
 }
 

@@ -4,7 +4,7 @@
 #include "UObject/UnrealType.h"
 #include "PropertyTextParsing.h"
 
-VLMR_IMPLEMENT_CLASS(UScriptStruct, CLASS_MatchedSerializers, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UScriptStruct, CLASS_MatchedSerializers, "CoreUObject")
 {
 }
 

@@ -7,11 +7,11 @@
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_STRUCT(FSoftObjectPath, "CoreUObject")
+STANDIN_IMPLEMENT_STRUCT(FSoftObjectPath, "CoreUObject")
 {
 }
 
-VLMR_IMPLEMENT_STRUCT(FSoftClassPath, "CoreUObject")
+STANDIN_IMPLEMENT_STRUCT(FSoftClassPath, "CoreUObject")
 {
 }
 

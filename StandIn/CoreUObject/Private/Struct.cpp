@@ -4,7 +4,7 @@
 #include "UObject/UnrealType.h"
 #include "UObject/TopLevelAssetPath.h"
 
-VLMR_IMPLEMENT_CLASS(UStruct, CLASS_MatchedSerializers, "CoreUObject")
+STANDIN_IMPLEMENT_CLASS(UStruct, CLASS_MatchedSerializers, "CoreUObject")
 {
 }
 

@@ -7,7 +7,7 @@
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_STRUCT(FTopLevelAssetPath, "CoreUObject")
+STANDIN_IMPLEMENT_STRUCT(FTopLevelAssetPath, "CoreUObject")
 {
 }
 

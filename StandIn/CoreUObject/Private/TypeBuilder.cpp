@@ -98,5 +98,5 @@ void FStandInTypeBuilderBase::FinishFunction(UFunction* Function, int32 ParmsSiz
 
 void FStandInTypeBuilderBase::CheckParameterCount(const TCHAR* FunctionName, int32 Expected, int32 Given)
 {
-	checkf(Expected == Given, TEXT("VLMR_FUNCTION(%s): %d parameter names given for %d parameters"), FunctionName, Given, Expected);
+	checkf(Expected == Given, TEXT("STANDIN_FUNCTION(%s): %d parameter names given for %d parameters"), FunctionName, Given, Expected);
 }

@@ -3,6 +3,6 @@
 
 AActor::AActor() = default;
 
-VLMR_IMPLEMENT_CLASS(AActor, CLASS_None, "Engine")
+STANDIN_IMPLEMENT_CLASS(AActor, CLASS_None, "Engine")
 {
 }

@@ -4,6 +4,6 @@
 
 UBlueprintFunctionLibrary::UBlueprintFunctionLibrary() = default;
 
-VLMR_IMPLEMENT_CLASS(UBlueprintFunctionLibrary, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(UBlueprintFunctionLibrary, CLASS_Abstract, "Engine")
 {
 }

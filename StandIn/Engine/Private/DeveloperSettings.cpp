@@ -8,7 +8,7 @@ UDeveloperSettings::UDeveloperSettings()
 	SectionName = GetClass() ? GetClass()->GetFName() : NAME_None;
 }
 
-VLMR_IMPLEMENT_CLASS(UDeveloperSettings, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(UDeveloperSettings, CLASS_Abstract, "Engine")
 {
 }
 

@@ -24,7 +24,7 @@ void FWorldContext::AddReferencedObjects(FReferenceCollector& Collector, const U
 
 UEngine::UEngine() = default;
 
-VLMR_IMPLEMENT_CLASS(UEngine, CLASS_Abstract | CLASS_Transient, "Engine")
+STANDIN_IMPLEMENT_CLASS(UEngine, CLASS_Abstract | CLASS_Transient, "Engine")
 {
 }
 

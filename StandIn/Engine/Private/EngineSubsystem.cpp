@@ -3,6 +3,6 @@
 
 UEngineSubsystem::UEngineSubsystem() = default;
 
-VLMR_IMPLEMENT_CLASS(UEngineSubsystem, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(UEngineSubsystem, CLASS_Abstract, "Engine")
 {
 }

@@ -3,6 +3,6 @@
 
 AGameModeBase::AGameModeBase() = default;
 
-VLMR_IMPLEMENT_CLASS(AGameModeBase, CLASS_None, "Engine")
+STANDIN_IMPLEMENT_CLASS(AGameModeBase, CLASS_None, "Engine")
 {
 }

@@ -3,6 +3,6 @@
 
 AInfo::AInfo() = default;
 
-VLMR_IMPLEMENT_CLASS(AInfo, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(AInfo, CLASS_Abstract, "Engine")
 {
 }

@@ -4,4 +4,4 @@
 #include "UObject/UnrealType.h"
 
 // AAM_MAX is the trailing entry the enum registration adds itself.
-VLMR_IMPLEMENT_ENUM(EAntiAliasingMethod, "Engine", AAM_None, AAM_FXAA, AAM_TemporalAA, AAM_MSAA, AAM_TSR)
+STANDIN_IMPLEMENT_ENUM(EAntiAliasingMethod, "Engine", AAM_None, AAM_FXAA, AAM_TemporalAA, AAM_MSAA, AAM_TSR)

@@ -3,18 +3,18 @@
 
 USoundSubmixBase::USoundSubmixBase() = default;
 
-VLMR_IMPLEMENT_CLASS(USoundSubmixBase, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(USoundSubmixBase, CLASS_Abstract, "Engine")
 {
 }
 
 USoundSubmixWithParentBase::USoundSubmixWithParentBase() = default;
 
-VLMR_IMPLEMENT_CLASS(USoundSubmixWithParentBase, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(USoundSubmixWithParentBase, CLASS_Abstract, "Engine")
 {
 }
 
 USoundSubmix::USoundSubmix() = default;
 
-VLMR_IMPLEMENT_CLASS(USoundSubmix, CLASS_None, "Engine")
+STANDIN_IMPLEMENT_CLASS(USoundSubmix, CLASS_None, "Engine")
 {
 }

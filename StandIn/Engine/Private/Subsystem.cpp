@@ -3,12 +3,12 @@
 
 USubsystem::USubsystem() = default;
 
-VLMR_IMPLEMENT_CLASS(USubsystem, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(USubsystem, CLASS_Abstract, "Engine")
 {
 }
 
 UDynamicSubsystem::UDynamicSubsystem() = default;
 
-VLMR_IMPLEMENT_CLASS(UDynamicSubsystem, CLASS_Abstract, "Engine")
+STANDIN_IMPLEMENT_CLASS(UDynamicSubsystem, CLASS_Abstract, "Engine")
 {
 }

@@ -25,7 +25,7 @@ namespace UE::Engine::Private
 
 UWorld::UWorld() = default;
 
-VLMR_IMPLEMENT_CLASS(UWorld, CLASS_None, "Engine")
+STANDIN_IMPLEMENT_CLASS(UWorld, CLASS_None, "Engine")
 {
 }
 

@@ -16,4 +16,4 @@ enum EAntiAliasingMethod : int
 	AAM_TSR,
 	AAM_MAX,
 };
-VLMR_DECLARE_ENUM(EAntiAliasingMethod, ENGINE_API)
+STANDIN_DECLARE_ENUM(EAntiAliasingMethod, ENGINE_API)

@@ -16,6 +16,6 @@ void UVlmrTestDriverExecutor::Finish()
 	}
 }
 
-VLMR_IMPLEMENT_CLASS(UVlmrTestDriverExecutor, CLASS_None, "HeadlessEditor")
+STANDIN_IMPLEMENT_CLASS(UVlmrTestDriverExecutor, CLASS_None, "HeadlessEditor")
 {
 }

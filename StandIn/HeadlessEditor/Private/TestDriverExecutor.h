@@ -7,7 +7,7 @@
 
 class UVlmrTestDriverExecutor : public UMoviePipelineExecutorBase
 {
-	VLMR_CLASS_BODY(UVlmrTestDriverExecutor, UMoviePipelineExecutorBase, )
+	STANDIN_CLASS_BODY(UVlmrTestDriverExecutor, UMoviePipelineExecutorBase, )
 
 public:
 	UVlmrTestDriverExecutor();

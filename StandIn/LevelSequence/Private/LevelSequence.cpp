@@ -14,7 +14,7 @@ void ULevelSequence::Initialize()
 	MovieScene->SetPlaybackRange(FFrameNumber(0), Duration.Value, false);
 }
 
-VLMR_IMPLEMENT_CLASS(ULevelSequence, CLASS_None, "LevelSequence")
+STANDIN_IMPLEMENT_CLASS(ULevelSequence, CLASS_None, "LevelSequence")
 {
-	VLMR_PROPERTY(MovieScene, CPF_None);
+	STANDIN_PROPERTY(MovieScene, CPF_None);
 }

@@ -36,10 +36,10 @@ void UMovieScene::AddStandInShot(const FMovieSceneStandInShot& InShot)
 	StandInShots.Add(InShot);
 }
 
-VLMR_IMPLEMENT_CLASS(UMovieScene, CLASS_None, "LevelSequence")
+STANDIN_IMPLEMENT_CLASS(UMovieScene, CLASS_None, "LevelSequence")
 {
-	VLMR_PROPERTY(PlaybackRange, CPF_None);
-	VLMR_PROPERTY(TickResolution, CPF_None);
-	VLMR_PROPERTY(DisplayRate, CPF_None);
-	VLMR_PROPERTY(StandInShots, CPF_None);
+	STANDIN_PROPERTY(PlaybackRange, CPF_None);
+	STANDIN_PROPERTY(TickResolution, CPF_None);
+	STANDIN_PROPERTY(DisplayRate, CPF_None);
+	STANDIN_PROPERTY(StandInShots, CPF_None);
 }

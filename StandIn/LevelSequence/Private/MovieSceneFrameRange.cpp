@@ -95,6 +95,6 @@ bool FMovieSceneFrameRange::ImportTextItem(const TCHAR*& Buffer, int32 PortFlags
 	return true;
 }
 
-VLMR_IMPLEMENT_STRUCT(FMovieSceneFrameRange, "LevelSequence")
+STANDIN_IMPLEMENT_STRUCT(FMovieSceneFrameRange, "LevelSequence")
 {
 }

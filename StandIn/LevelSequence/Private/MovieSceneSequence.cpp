@@ -2,6 +2,6 @@
 
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_CLASS(UMovieSceneSequence, CLASS_Abstract, "LevelSequence")
+STANDIN_IMPLEMENT_CLASS(UMovieSceneSequence, CLASS_Abstract, "LevelSequence")
 {
 }

@@ -2,9 +2,9 @@
 
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_STRUCT(FMovieSceneStandInShot, "LevelSequence")
+STANDIN_IMPLEMENT_STRUCT(FMovieSceneStandInShot, "LevelSequence")
 {
-	VLMR_PROPERTY(ShotDisplayName, CPF_None);
-	VLMR_PROPERTY(CameraName, CPF_None);
-	VLMR_PROPERTY(SectionRange, CPF_None);
+	STANDIN_PROPERTY(ShotDisplayName, CPF_None);
+	STANDIN_PROPERTY(CameraName, CPF_None);
+	STANDIN_PROPERTY(SectionRange, CPF_None);
 }

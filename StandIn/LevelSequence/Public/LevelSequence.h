@@ -8,7 +8,7 @@
 UCLASS(BlueprintType)
 class LEVELSEQUENCE_API ULevelSequence : public UMovieSceneSequence
 {
-	VLMR_CLASS_BODY(ULevelSequence, UMovieSceneSequence, LEVELSEQUENCE_API)
+	STANDIN_CLASS_BODY(ULevelSequence, UMovieSceneSequence, LEVELSEQUENCE_API)
 
 public:
 	// Gives a new sequence its movie scene, with the editor's defaults for new level sequences.

@@ -11,7 +11,7 @@
 UCLASS()
 class LEVELSEQUENCE_API UMovieScene : public UObject
 {
-	VLMR_CLASS_BODY(UMovieScene, UObject, LEVELSEQUENCE_API)
+	STANDIN_CLASS_BODY(UMovieScene, UObject, LEVELSEQUENCE_API)
 
 public:
 	// In tick-resolution frames, lower bound inclusive and upper bound exclusive.

@@ -12,7 +12,7 @@ class FArchive;
 USTRUCT()
 struct LEVELSEQUENCE_API FMovieSceneFrameRange
 {
-	VLMR_STRUCT_BODY(FMovieSceneFrameRange, LEVELSEQUENCE_API)
+	STANDIN_STRUCT_BODY(FMovieSceneFrameRange, LEVELSEQUENCE_API)
 
 public:
 	FMovieSceneFrameRange() = default;

@@ -10,7 +10,7 @@ class UMovieScene;
 UCLASS(Abstract)
 class LEVELSEQUENCE_API UMovieSceneSequence : public UObject
 {
-	VLMR_CLASS_BODY(UMovieSceneSequence, UObject, LEVELSEQUENCE_API)
+	STANDIN_CLASS_BODY(UMovieSceneSequence, UObject, LEVELSEQUENCE_API)
 
 public:
 	virtual UMovieScene* GetMovieScene() const PURE_VIRTUAL(UMovieSceneSequence::GetMovieScene, return nullptr;);

@@ -9,7 +9,7 @@
 USTRUCT()
 struct LEVELSEQUENCE_API FMovieSceneStandInShot
 {
-	VLMR_STRUCT_BODY(FMovieSceneStandInShot, LEVELSEQUENCE_API)
+	STANDIN_STRUCT_BODY(FMovieSceneStandInShot, LEVELSEQUENCE_API)
 
 public:
 	bool operator==(const FMovieSceneStandInShot& Other) const

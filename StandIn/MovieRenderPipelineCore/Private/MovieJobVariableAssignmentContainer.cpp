@@ -5,7 +5,7 @@
 
 UMovieJobVariableAssignmentContainer::UMovieJobVariableAssignmentContainer() = default;
 
-VLMR_IMPLEMENT_CLASS(UMovieJobVariableAssignmentContainer, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMovieJobVariableAssignmentContainer, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(GraphConfig, CPF_None);
+	STANDIN_PROPERTY(GraphConfig, CPF_None);
 }

@@ -468,11 +468,11 @@ void UMoviePipeline::ResolveFilenameFormatArguments(const FString& InFormatStrin
 	}
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_FUNCTION(Initialize, TEXT("InJob"));
-	VLMR_FUNCTION(GetCurrentJob);
-	VLMR_FUNCTION(GetCurrentShotIndex);
-	VLMR_FUNCTION(GetPipelinePrimaryConfig);
-	VLMR_FUNCTION(GetInitializationTime);
+	STANDIN_FUNCTION(Initialize, TEXT("InJob"));
+	STANDIN_FUNCTION(GetCurrentJob);
+	STANDIN_FUNCTION(GetCurrentShotIndex);
+	STANDIN_FUNCTION(GetPipelinePrimaryConfig);
+	STANDIN_FUNCTION(GetInitializationTime);
 }

@@ -21,15 +21,15 @@ FText UMoviePipelineAntiAliasingSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineAntiAliasingSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineAntiAliasingSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(SpatialSampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(TemporalSampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(bOverrideAntiAliasing, EditableFlags);
-	VLMR_PROPERTY(AntiAliasingMethod, EditableFlags);
-	VLMR_PROPERTY(RenderWarmUpCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
-	VLMR_PROPERTY(bUseCameraCutForWarmUp, EditableFlags);
-	VLMR_PROPERTY(EngineWarmUpCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
-	VLMR_PROPERTY(bRenderWarmUpFrames, EditableFlags);
+	STANDIN_PROPERTY(SpatialSampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(TemporalSampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(bOverrideAntiAliasing, EditableFlags);
+	STANDIN_PROPERTY(AntiAliasingMethod, EditableFlags);
+	STANDIN_PROPERTY(RenderWarmUpCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
+	STANDIN_PROPERTY(bUseCameraCutForWarmUp, EditableFlags);
+	STANDIN_PROPERTY(EngineWarmUpCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
+	STANDIN_PROPERTY(bRenderWarmUpFrames, EditableFlags);
 }

@@ -15,10 +15,10 @@ void UMoviePipelineBase::RequestShutdownImpl(bool bIsError)
 	bShutdownRequested = true;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
-	VLMR_FUNCTION(RequestShutdown, TEXT("bIsError"));
-	VLMR_FUNCTION(Shutdown, TEXT("bIsError"));
-	VLMR_FUNCTION(IsShutdownRequested);
-	VLMR_FUNCTION(GetPipelineState);
+	STANDIN_FUNCTION(RequestShutdown, TEXT("bIsError"));
+	STANDIN_FUNCTION(Shutdown, TEXT("bIsError"));
+	STANDIN_FUNCTION(IsShutdownRequested);
+	STANDIN_FUNCTION(GetPipelineState);
 }

@@ -182,10 +182,10 @@ void UMoviePipelineBlueprintLibrary::GetOverallOutputFrames(const UMoviePipeline
 	OutTotalCount = InMoviePipeline ? InMoviePipeline->TotalOutputFrames : 0;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineBlueprintLibrary, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineBlueprintLibrary, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_FUNCTION(UpdateJobShotListFromSequence, TEXT("InSequence"), TEXT("InJob"), TEXT("bShotsChanged"));
-	VLMR_FUNCTION(GetCompletionPercentage, TEXT("InPipeline"));
-	VLMR_FUNCTION(GetPipelineState, TEXT("InPipeline"));
-	VLMR_FUNCTION(GetOverallOutputFrames, TEXT("InMoviePipeline"), TEXT("OutCurrentIndex"), TEXT("OutTotalCount"));
+	STANDIN_FUNCTION(UpdateJobShotListFromSequence, TEXT("InSequence"), TEXT("InJob"), TEXT("bShotsChanged"));
+	STANDIN_FUNCTION(GetCompletionPercentage, TEXT("InPipeline"));
+	STANDIN_FUNCTION(GetPipelineState, TEXT("InPipeline"));
+	STANDIN_FUNCTION(GetOverallOutputFrames, TEXT("InMoviePipeline"), TEXT("OutCurrentIndex"), TEXT("OutTotalCount"));
 }

@@ -17,11 +17,11 @@ FText UMoviePipelineCameraSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineCameraSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineCameraSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(ShutterTiming, EditableFlags);
-	VLMR_PROPERTY(bOverrideCameraOverscan, EditableFlags);
-	VLMR_PROPERTY(OverscanPercentage, EditableFlags);
-	VLMR_PROPERTY(bRenderAllCameras, EditableFlags);
+	STANDIN_PROPERTY(ShutterTiming, EditableFlags);
+	STANDIN_PROPERTY(bOverrideCameraOverscan, EditableFlags);
+	STANDIN_PROPERTY(OverscanPercentage, EditableFlags);
+	STANDIN_PROPERTY(bRenderAllCameras, EditableFlags);
 }

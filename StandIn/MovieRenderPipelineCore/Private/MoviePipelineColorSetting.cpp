@@ -14,7 +14,7 @@ FText UMoviePipelineColorSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineColorSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineColorSetting, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(bDisableToneCurve, CPF_Edit | CPF_BlueprintVisible | CPF_AdvancedDisplay);
+	STANDIN_PROPERTY(bDisableToneCurve, CPF_Edit | CPF_BlueprintVisible | CPF_AdvancedDisplay);
 }

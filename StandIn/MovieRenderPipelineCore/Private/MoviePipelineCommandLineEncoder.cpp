@@ -3,7 +3,7 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_ENUM(EMoviePipelineEncodeQuality, "MovieRenderPipelineCore", Low, Medium, High, Epic)
+STANDIN_IMPLEMENT_ENUM(EMoviePipelineEncodeQuality, "MovieRenderPipelineCore", Low, Medium, High, Epic)
 
 UMoviePipelineCommandLineEncoder::UMoviePipelineCommandLineEncoder()
 	: Quality(EMoviePipelineEncodeQuality::Epic)
@@ -25,13 +25,13 @@ FText UMoviePipelineCommandLineEncoder::GetCategoryText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineCommandLineEncoder, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineCommandLineEncoder, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(FileNameFormatOverride, EditableFlags);
-	VLMR_PROPERTY(Quality, EditableFlags);
-	VLMR_PROPERTY(AdditionalCommandLineArgs, EditableFlags);
-	VLMR_PROPERTY(bDeleteSourceFiles, EditableFlags);
-	VLMR_PROPERTY(bSkipEncodeOnRenderCanceled, EditableFlags);
-	VLMR_PROPERTY(bWriteEachFrameDuration, EditableFlags);
+	STANDIN_PROPERTY(FileNameFormatOverride, EditableFlags);
+	STANDIN_PROPERTY(Quality, EditableFlags);
+	STANDIN_PROPERTY(AdditionalCommandLineArgs, EditableFlags);
+	STANDIN_PROPERTY(bDeleteSourceFiles, EditableFlags);
+	STANDIN_PROPERTY(bSkipEncodeOnRenderCanceled, EditableFlags);
+	STANDIN_PROPERTY(bWriteEachFrameDuration, EditableFlags);
 }

@@ -142,17 +142,17 @@ TArray<UMoviePipelineSetting*> UMoviePipelineConfigBase::GetUserSettings() const
 	return UserSettings;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineConfigBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineConfigBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(DisplayName, CPF_None);
-	VLMR_PROPERTY(Settings, CPF_Edit | CPF_EditConst | CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
-	VLMR_PROPERTY(ConfigOrigin, CPF_None);
-	VLMR_FUNCTION(RemoveSetting, TEXT("InSetting"));
-	VLMR_FUNCTION(CopyFrom, TEXT("InConfig"));
-	VLMR_FUNCTION(FindSettingsByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
-	VLMR_FUNCTION(FindSettingByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
-	VLMR_FUNCTION(FindOrAddSettingByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
-	VLMR_FUNCTION(GetUserSettings);
-	VLMR_FUNCTION(GetConfigOrigin);
-	VLMR_FUNCTION(SetConfigOrigin, TEXT("InConfig"));
+	STANDIN_PROPERTY(DisplayName, CPF_None);
+	STANDIN_PROPERTY(Settings, CPF_Edit | CPF_EditConst | CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
+	STANDIN_PROPERTY(ConfigOrigin, CPF_None);
+	STANDIN_FUNCTION(RemoveSetting, TEXT("InSetting"));
+	STANDIN_FUNCTION(CopyFrom, TEXT("InConfig"));
+	STANDIN_FUNCTION(FindSettingsByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(FindSettingByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(FindOrAddSettingByClass, TEXT("InClass"), TEXT("bIncludeDisabledSettings"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(GetUserSettings);
+	STANDIN_FUNCTION(GetConfigOrigin);
+	STANDIN_FUNCTION(SetConfigOrigin, TEXT("InConfig"));
 }

@@ -17,11 +17,11 @@ FText UMoviePipelineDebugSettings::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDebugSettings, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDebugSettings, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(bWriteAllSamples, EditableFlags);
-	VLMR_PROPERTY(bCaptureFramesWithRenderDoc, EditableFlags);
-	VLMR_PROPERTY(CaptureFrame, EditableFlags);
-	VLMR_PROPERTY(bCaptureUnrealInsightsTrace, EditableFlags);
+	STANDIN_PROPERTY(bWriteAllSamples, EditableFlags);
+	STANDIN_PROPERTY(bCaptureFramesWithRenderDoc, EditableFlags);
+	STANDIN_PROPERTY(CaptureFrame, EditableFlags);
+	STANDIN_PROPERTY(bCaptureUnrealInsightsTrace, EditableFlags);
 }

@@ -4,6 +4,6 @@
 
 UDEPRECATED_MoviePipelineStandInLegacySetting::UDEPRECATED_MoviePipelineStandInLegacySetting() = default;
 
-VLMR_IMPLEMENT_CLASS(UDEPRECATED_MoviePipelineStandInLegacySetting, CLASS_Deprecated, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UDEPRECATED_MoviePipelineStandInLegacySetting, CLASS_Deprecated, "MovieRenderPipelineCore")
 {
 }

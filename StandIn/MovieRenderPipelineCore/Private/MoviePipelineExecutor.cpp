@@ -29,18 +29,18 @@ void UMoviePipelineExecutorBase::OnExecutorErroredImpl(UMoviePipeline* ErroredPi
 	OnExecutorErroredDelegateNative.Broadcast(this, ErroredPipeline, bFatal, ErrorReason);
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(UserData, CPF_BlueprintVisible);
-	VLMR_PROPERTY(TargetPipelineClass, CPF_Transient);
-	VLMR_FUNCTION(Execute, TEXT("InPipelineQueue"));
-	VLMR_FUNCTION(IsRendering);
-	VLMR_FUNCTION(SetStatusMessage, TEXT("InStatus"));
-	VLMR_FUNCTION(GetStatusMessage);
-	VLMR_FUNCTION(SetStatusProgress, TEXT("InProgress"));
-	VLMR_FUNCTION(GetStatusProgress);
-	VLMR_FUNCTION(SetMoviePipelineClass, TEXT("InPipelineClass"));
-	VLMR_FUNCTION(CancelCurrentJob);
-	VLMR_FUNCTION(CancelAllJobs);
-	VLMR_FUNCTION(OnExecutorFinishedImpl);
+	STANDIN_PROPERTY(UserData, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(TargetPipelineClass, CPF_Transient);
+	STANDIN_FUNCTION(Execute, TEXT("InPipelineQueue"));
+	STANDIN_FUNCTION(IsRendering);
+	STANDIN_FUNCTION(SetStatusMessage, TEXT("InStatus"));
+	STANDIN_FUNCTION(GetStatusMessage);
+	STANDIN_FUNCTION(SetStatusProgress, TEXT("InProgress"));
+	STANDIN_FUNCTION(GetStatusProgress);
+	STANDIN_FUNCTION(SetMoviePipelineClass, TEXT("InPipelineClass"));
+	STANDIN_FUNCTION(CancelCurrentJob);
+	STANDIN_FUNCTION(CancelAllJobs);
+	STANDIN_FUNCTION(OnExecutorFinishedImpl);
 }

@@ -10,7 +10,7 @@
 #include "UObject/UObjectGlobals.h"
 
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
-VLMR_IMPLEMENT_ENUM(EMoviePipelineConfigMode, "MovieRenderPipelineCore", Preset, Graph, Basic)
+STANDIN_IMPLEMENT_ENUM(EMoviePipelineConfigMode, "MovieRenderPipelineCore", Preset, Graph, Basic)
 #endif
 
 UMoviePipelineExecutorJob::UMoviePipelineExecutorJob()
@@ -194,55 +194,55 @@ void UMoviePipelineExecutorJob::RefreshAllVariableAssignments()
 	}
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
-	VLMR_PROPERTY(JobName, EditableFlags);
-	VLMR_PROPERTY(Sequence, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/LevelSequence.LevelSequence"));
-	VLMR_PROPERTY(Map, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.World"));
-	VLMR_PROPERTY(Author, EditableFlags);
-	VLMR_PROPERTY(Comment, EditableFlags)->SetMetaData(TEXT("MultiLine"), TEXT("true"));
-	VLMR_PROPERTY(ShotInfo, CPF_BlueprintVisible | InstancedArrayFlags);
-	VLMR_PROPERTY(UserData, CPF_BlueprintVisible);
-	VLMR_PROPERTY(ConsoleVariableOverrides, EditableFlags);
-	VLMR_PROPERTY(StatusMessage, CPF_Transient);
-	VLMR_PROPERTY(StatusProgress, CPF_Transient);
-	VLMR_PROPERTY(bIsConsumed, CPF_Transient);
-	VLMR_PROPERTY(Configuration, CPF_ExportObject | CPF_InstancedReference);
-	VLMR_PROPERTY(PresetOrigin, CPF_None);
-	VLMR_PROPERTY(bEnabled, CPF_None);
-	VLMR_PROPERTY(GraphPreset, CPF_None);
-	VLMR_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
+	STANDIN_PROPERTY(JobName, EditableFlags);
+	STANDIN_PROPERTY(Sequence, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/LevelSequence.LevelSequence"));
+	STANDIN_PROPERTY(Map, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.World"));
+	STANDIN_PROPERTY(Author, EditableFlags);
+	STANDIN_PROPERTY(Comment, EditableFlags)->SetMetaData(TEXT("MultiLine"), TEXT("true"));
+	STANDIN_PROPERTY(ShotInfo, CPF_BlueprintVisible | InstancedArrayFlags);
+	STANDIN_PROPERTY(UserData, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(ConsoleVariableOverrides, EditableFlags);
+	STANDIN_PROPERTY(StatusMessage, CPF_Transient);
+	STANDIN_PROPERTY(StatusProgress, CPF_Transient);
+	STANDIN_PROPERTY(bIsConsumed, CPF_Transient);
+	STANDIN_PROPERTY(Configuration, CPF_ExportObject | CPF_InstancedReference);
+	STANDIN_PROPERTY(PresetOrigin, CPF_None);
+	STANDIN_PROPERTY(bEnabled, CPF_None);
+	STANDIN_PROPERTY(GraphPreset, CPF_None);
+	STANDIN_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
-	VLMR_PROPERTY(BasicConfig, CPF_ExportObject | CPF_InstancedReference);
-	VLMR_PROPERTY(ConfigMode, CPF_None);
-	VLMR_PROPERTY(bHasInitializedLegacyPresetDefaults, CPF_None);
+	STANDIN_PROPERTY(BasicConfig, CPF_ExportObject | CPF_InstancedReference);
+	STANDIN_PROPERTY(ConfigMode, CPF_None);
+	STANDIN_PROPERTY(bHasInitializedLegacyPresetDefaults, CPF_None);
 #endif
 
-	VLMR_FUNCTION(SetStatusMessage, TEXT("InStatus"));
-	VLMR_FUNCTION(GetStatusMessage);
-	VLMR_FUNCTION(SetStatusProgress, TEXT("InProgress"));
-	VLMR_FUNCTION(GetStatusProgress);
-	VLMR_FUNCTION(SetConsumed, TEXT("bInConsumed"));
-	VLMR_FUNCTION(IsConsumed);
-	VLMR_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
-	VLMR_FUNCTION(IsEnabled);
-	VLMR_FUNCTION(OnDuplicated);
-	VLMR_FUNCTION(SetPresetOrigin, TEXT("InPreset"));
-	VLMR_FUNCTION(GetPresetOrigin);
-	VLMR_FUNCTION(GetConfiguration);
-	VLMR_FUNCTION(SetConfiguration, TEXT("InPreset"));
-	VLMR_FUNCTION(GetGraphPreset);
-	VLMR_FUNCTION(SetGraphPreset, TEXT("InGraphPreset"), TEXT("bUpdateVariableAssignments"));
-	VLMR_FUNCTION(IsUsingGraphConfiguration);
-	VLMR_FUNCTION(SetSequence, TEXT("InSequence"));
-	VLMR_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"));
+	STANDIN_FUNCTION(SetStatusMessage, TEXT("InStatus"));
+	STANDIN_FUNCTION(GetStatusMessage);
+	STANDIN_FUNCTION(SetStatusProgress, TEXT("InProgress"));
+	STANDIN_FUNCTION(GetStatusProgress);
+	STANDIN_FUNCTION(SetConsumed, TEXT("bInConsumed"));
+	STANDIN_FUNCTION(IsConsumed);
+	STANDIN_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
+	STANDIN_FUNCTION(IsEnabled);
+	STANDIN_FUNCTION(OnDuplicated);
+	STANDIN_FUNCTION(SetPresetOrigin, TEXT("InPreset"));
+	STANDIN_FUNCTION(GetPresetOrigin);
+	STANDIN_FUNCTION(GetConfiguration);
+	STANDIN_FUNCTION(SetConfiguration, TEXT("InPreset"));
+	STANDIN_FUNCTION(GetGraphPreset);
+	STANDIN_FUNCTION(SetGraphPreset, TEXT("InGraphPreset"), TEXT("bUpdateVariableAssignments"));
+	STANDIN_FUNCTION(IsUsingGraphConfiguration);
+	STANDIN_FUNCTION(SetSequence, TEXT("InSequence"));
+	STANDIN_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"));
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
-	VLMR_FUNCTION(GetConfigMode);
-	VLMR_FUNCTION(SetConfigMode, TEXT("InConfigMode"));
-	VLMR_FUNCTION(IsUsingBasicConfiguration);
-	VLMR_FUNCTION(GetBasicConfig);
-	VLMR_FUNCTION(CanUseConsoleVariableOverrides);
+	STANDIN_FUNCTION(GetConfigMode);
+	STANDIN_FUNCTION(SetConfigMode, TEXT("InConfigMode"));
+	STANDIN_FUNCTION(IsUsingBasicConfiguration);
+	STANDIN_FUNCTION(GetBasicConfig);
+	STANDIN_FUNCTION(CanUseConsoleVariableOverrides);
 #endif
 }

@@ -121,37 +121,37 @@ UMovieJobVariableAssignmentContainer* UMoviePipelineExecutorShot::GetOrCreateJob
 	return NewAssignments;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
-	VLMR_PROPERTY(bEnabled, CPF_BlueprintVisible);
-	VLMR_PROPERTY(OuterName, CPF_BlueprintVisible);
-	VLMR_PROPERTY(InnerName, CPF_BlueprintVisible);
-	VLMR_PROPERTY(SidecarCameras, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bEnabled, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(OuterName, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(InnerName, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(SidecarCameras, CPF_BlueprintVisible);
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 7
-	VLMR_PROPERTY(ConsoleVariableOverrides, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(ConsoleVariableOverrides, CPF_Edit | CPF_BlueprintVisible);
 #endif
-	VLMR_PROPERTY(Progress, CPF_Transient);
-	VLMR_PROPERTY(StatusMessage, CPF_Transient);
-	VLMR_PROPERTY(ShotOverrideConfig, CPF_ExportObject | CPF_InstancedReference);
-	VLMR_PROPERTY(ShotOverridePresetOrigin, CPF_None);
-	VLMR_PROPERTY(GraphPreset, CPF_None);
-	VLMR_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
-	VLMR_PROPERTY(PrimaryGraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
+	STANDIN_PROPERTY(Progress, CPF_Transient);
+	STANDIN_PROPERTY(StatusMessage, CPF_Transient);
+	STANDIN_PROPERTY(ShotOverrideConfig, CPF_ExportObject | CPF_InstancedReference);
+	STANDIN_PROPERTY(ShotOverridePresetOrigin, CPF_None);
+	STANDIN_PROPERTY(GraphPreset, CPF_None);
+	STANDIN_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
+	STANDIN_PROPERTY(PrimaryGraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
 
-	VLMR_FUNCTION(ShouldRender);
-	VLMR_FUNCTION(GetCameraName, TEXT("InCameraIndex"));
-	VLMR_FUNCTION(SetStatusMessage, TEXT("InStatus"));
-	VLMR_FUNCTION(GetStatusMessage);
-	VLMR_FUNCTION(SetStatusProgress, TEXT("InProgress"));
-	VLMR_FUNCTION(GetStatusProgress);
-	VLMR_FUNCTION(AllocateNewShotOverrideConfig, TEXT("InConfigType"));
-	VLMR_FUNCTION(SetShotOverrideConfiguration, TEXT("InPreset"));
-	VLMR_FUNCTION(SetShotOverridePresetOrigin, TEXT("InPreset"));
-	VLMR_FUNCTION(GetShotOverrideConfiguration);
-	VLMR_FUNCTION(GetShotOverridePresetOrigin);
-	VLMR_FUNCTION(SetGraphPreset, TEXT("InGraphPreset"), TEXT("bUpdateVariableAssignments"));
-	VLMR_FUNCTION(GetGraphPreset);
-	VLMR_FUNCTION(IsUsingGraphConfiguration);
-	VLMR_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"), TEXT("bIsForPrimaryOverrides"));
+	STANDIN_FUNCTION(ShouldRender);
+	STANDIN_FUNCTION(GetCameraName, TEXT("InCameraIndex"));
+	STANDIN_FUNCTION(SetStatusMessage, TEXT("InStatus"));
+	STANDIN_FUNCTION(GetStatusMessage);
+	STANDIN_FUNCTION(SetStatusProgress, TEXT("InProgress"));
+	STANDIN_FUNCTION(GetStatusProgress);
+	STANDIN_FUNCTION(AllocateNewShotOverrideConfig, TEXT("InConfigType"));
+	STANDIN_FUNCTION(SetShotOverrideConfiguration, TEXT("InPreset"));
+	STANDIN_FUNCTION(SetShotOverridePresetOrigin, TEXT("InPreset"));
+	STANDIN_FUNCTION(GetShotOverrideConfiguration);
+	STANDIN_FUNCTION(GetShotOverridePresetOrigin);
+	STANDIN_FUNCTION(SetGraphPreset, TEXT("InGraphPreset"), TEXT("bUpdateVariableAssignments"));
+	STANDIN_FUNCTION(GetGraphPreset);
+	STANDIN_FUNCTION(IsUsingGraphConfiguration);
+	STANDIN_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"), TEXT("bIsForPrimaryOverrides"));
 }

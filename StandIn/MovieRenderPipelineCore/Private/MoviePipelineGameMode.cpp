@@ -4,6 +4,6 @@
 
 AMoviePipelineGameMode::AMoviePipelineGameMode() = default;
 
-VLMR_IMPLEMENT_CLASS(AMoviePipelineGameMode, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(AMoviePipelineGameMode, CLASS_None, "MovieRenderPipelineCore")
 {
 }

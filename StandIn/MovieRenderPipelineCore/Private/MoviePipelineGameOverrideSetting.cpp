@@ -4,7 +4,7 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_ENUM(EMoviePipelineTextureStreamingMethod, "MovieRenderPipelineCore", None, Disabled, FullyLoad)
+STANDIN_IMPLEMENT_ENUM(EMoviePipelineTextureStreamingMethod, "MovieRenderPipelineCore", None, Disabled, FullyLoad)
 
 UMoviePipelineGameOverrideSetting::UMoviePipelineGameOverrideSetting()
 	: GameModeOverride(nullptr)
@@ -37,28 +37,28 @@ FText UMoviePipelineGameOverrideSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineGameOverrideSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineGameOverrideSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	FProperty* DeprecatedGameMode = VLMR_PROPERTY(GameModeOverride, CPF_BlueprintVisible);
+	FProperty* DeprecatedGameMode = STANDIN_PROPERTY(GameModeOverride, CPF_BlueprintVisible);
 	DeprecatedGameMode->SetMetaData(TEXT("DeprecatedProperty"), TEXT(""));
 	DeprecatedGameMode->SetMetaData(TEXT("DeprecationMessage"), TEXT("Please use the SoftGameModeOverride property instead."));
-	VLMR_PROPERTY(SoftGameModeOverride, EditableFlags)->SetMetaData(TEXT("DisplayName"), TEXT("Game Mode Override"));
-	VLMR_PROPERTY(bCinematicQualitySettings, EditableFlags);
-	VLMR_PROPERTY(TextureStreaming, EditableFlags);
-	VLMR_PROPERTY(bUseLODZero, EditableFlags);
-	VLMR_PROPERTY(bDisableHLODs, EditableFlags);
-	VLMR_PROPERTY(bUseHighQualityShadows, EditableFlags);
-	VLMR_PROPERTY(ShadowDistanceScale, EditableFlags);
-	VLMR_PROPERTY(ShadowRadiusThreshold, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0.001"));
-	VLMR_PROPERTY(bOverrideViewDistanceScale, EditableFlags);
-	VLMR_PROPERTY(ViewDistanceScale, EditableFlags);
-	VLMR_PROPERTY(bFlushGrassStreaming, EditableFlags);
-	VLMR_PROPERTY(bOverrideGrassCullDistanceScale, EditableFlags);
-	VLMR_PROPERTY(GrassCullDistanceScale, EditableFlags);
-	VLMR_PROPERTY(bOverrideGrassDensityScale, EditableFlags);
-	VLMR_PROPERTY(GrassDensityScale, EditableFlags);
-	VLMR_PROPERTY(bFlushStreamingManagers, EditableFlags);
-	VLMR_PROPERTY(bOverrideVirtualTextureFeedbackFactor, EditableFlags);
-	VLMR_PROPERTY(VirtualTextureFeedbackFactor, EditableFlags);
+	STANDIN_PROPERTY(SoftGameModeOverride, EditableFlags)->SetMetaData(TEXT("DisplayName"), TEXT("Game Mode Override"));
+	STANDIN_PROPERTY(bCinematicQualitySettings, EditableFlags);
+	STANDIN_PROPERTY(TextureStreaming, EditableFlags);
+	STANDIN_PROPERTY(bUseLODZero, EditableFlags);
+	STANDIN_PROPERTY(bDisableHLODs, EditableFlags);
+	STANDIN_PROPERTY(bUseHighQualityShadows, EditableFlags);
+	STANDIN_PROPERTY(ShadowDistanceScale, EditableFlags);
+	STANDIN_PROPERTY(ShadowRadiusThreshold, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0.001"));
+	STANDIN_PROPERTY(bOverrideViewDistanceScale, EditableFlags);
+	STANDIN_PROPERTY(ViewDistanceScale, EditableFlags);
+	STANDIN_PROPERTY(bFlushGrassStreaming, EditableFlags);
+	STANDIN_PROPERTY(bOverrideGrassCullDistanceScale, EditableFlags);
+	STANDIN_PROPERTY(GrassCullDistanceScale, EditableFlags);
+	STANDIN_PROPERTY(bOverrideGrassDensityScale, EditableFlags);
+	STANDIN_PROPERTY(GrassDensityScale, EditableFlags);
+	STANDIN_PROPERTY(bFlushStreamingManagers, EditableFlags);
+	STANDIN_PROPERTY(bOverrideVirtualTextureFeedbackFactor, EditableFlags);
+	STANDIN_PROPERTY(VirtualTextureFeedbackFactor, EditableFlags);
 }

@@ -19,13 +19,13 @@ FText UMoviePipelineHighResSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineHighResSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineHighResSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(TileCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(TextureSharpnessBias, EditableFlags);
-	VLMR_PROPERTY(OverlapRatio, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
-	VLMR_PROPERTY(bOverrideSubSurfaceScattering, EditableFlags);
-	VLMR_PROPERTY(BurleySampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
-	VLMR_PROPERTY(bAllocateHistoryPerTile, EditableFlags);
+	STANDIN_PROPERTY(TileCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(TextureSharpnessBias, EditableFlags);
+	STANDIN_PROPERTY(OverlapRatio, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
+	STANDIN_PROPERTY(bOverrideSubSurfaceScattering, EditableFlags);
+	STANDIN_PROPERTY(BurleySampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
+	STANDIN_PROPERTY(bAllocateHistoryPerTile, EditableFlags);
 }

@@ -132,8 +132,8 @@ float UMoviePipelineLinearExecutorBase::GetCompletionPercentageFromActivePipelin
 
 #undef LOCTEXT_NAMESPACE
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineLinearExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineLinearExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(Queue, CPF_Transient);
-	VLMR_PROPERTY(ActiveMoviePipeline, CPF_Transient);
+	STANDIN_PROPERTY(Queue, CPF_Transient);
+	STANDIN_PROPERTY(ActiveMoviePipeline, CPF_Transient);
 }

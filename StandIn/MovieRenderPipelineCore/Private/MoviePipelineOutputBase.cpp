@@ -11,6 +11,6 @@ FText UMoviePipelineOutputBase::GetCategoryText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

@@ -45,24 +45,24 @@ void UMoviePipelineOutputSetting::PostLoad()
 	}
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(OutputDirectory, EditableFlags);
-	VLMR_PROPERTY(FileNameFormat, EditableFlags);
-	VLMR_PROPERTY(OutputResolution, EditableFlags);
-	VLMR_PROPERTY(bUseCustomFrameRate, EditableFlags);
-	VLMR_PROPERTY(OutputFrameRate, EditableFlags);
-	VLMR_PROPERTY(bOverrideExistingOutput, EditableFlags);
-	VLMR_PROPERTY(HandleFrameCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
-	VLMR_PROPERTY(OutputFrameStep, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(bUseCustomPlaybackRange, EditableFlags);
-	VLMR_PROPERTY(CustomStartFrame, EditableFlags);
-	VLMR_PROPERTY(CustomEndFrame, EditableFlags);
-	VLMR_PROPERTY(VersionNumber, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(bAutoVersion, EditableFlags);
-	VLMR_PROPERTY(AdditionalSubmixOutputs, EditableFlags);
-	VLMR_PROPERTY(ZeroPadFrameNumbers, EditableFlags | CPF_AdvancedDisplay)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
-	VLMR_PROPERTY(FrameNumberOffset, EditableFlags | CPF_AdvancedDisplay);
-	VLMR_PROPERTY(bFlushDiskWritesPerShot, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(OutputDirectory, EditableFlags);
+	STANDIN_PROPERTY(FileNameFormat, EditableFlags);
+	STANDIN_PROPERTY(OutputResolution, EditableFlags);
+	STANDIN_PROPERTY(bUseCustomFrameRate, EditableFlags);
+	STANDIN_PROPERTY(OutputFrameRate, EditableFlags);
+	STANDIN_PROPERTY(bOverrideExistingOutput, EditableFlags);
+	STANDIN_PROPERTY(HandleFrameCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("0"));
+	STANDIN_PROPERTY(OutputFrameStep, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(bUseCustomPlaybackRange, EditableFlags);
+	STANDIN_PROPERTY(CustomStartFrame, EditableFlags);
+	STANDIN_PROPERTY(CustomEndFrame, EditableFlags);
+	STANDIN_PROPERTY(VersionNumber, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(bAutoVersion, EditableFlags);
+	STANDIN_PROPERTY(AdditionalSubmixOutputs, EditableFlags);
+	STANDIN_PROPERTY(ZeroPadFrameNumbers, EditableFlags | CPF_AdvancedDisplay)->SetMetaData(TEXT("ClampMin"), TEXT("1"));
+	STANDIN_PROPERTY(FrameNumberOffset, EditableFlags | CPF_AdvancedDisplay);
+	STANDIN_PROPERTY(bFlushDiskWritesPerShot, CPF_BlueprintVisible);
 }

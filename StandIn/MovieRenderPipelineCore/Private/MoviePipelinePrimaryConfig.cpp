@@ -149,13 +149,13 @@ void UMoviePipelinePrimaryConfig::OnSettingRemoved(UMoviePipelineSetting* InSett
 	}
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelinePrimaryConfig, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelinePrimaryConfig, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(PerShotConfigMapping, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
-	VLMR_PROPERTY(TransientSettings, CPF_Transient);
-	VLMR_PROPERTY(OutputSetting, CPF_ExportObject | CPF_InstancedReference);
-	VLMR_FUNCTION(GetTransientSettings);
-	VLMR_FUNCTION(GetAllSettings, TEXT("bIncludeDisabledSettings"), TEXT("bIncludeTransientSettings"));
-	VLMR_FUNCTION(InitializeTransientSettings);
-	VLMR_FUNCTION(GetEffectiveFrameRate, TEXT("InSequence"));
+	STANDIN_PROPERTY(PerShotConfigMapping, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
+	STANDIN_PROPERTY(TransientSettings, CPF_Transient);
+	STANDIN_PROPERTY(OutputSetting, CPF_ExportObject | CPF_InstancedReference);
+	STANDIN_FUNCTION(GetTransientSettings);
+	STANDIN_FUNCTION(GetAllSettings, TEXT("bIncludeDisabledSettings"), TEXT("bIncludeTransientSettings"));
+	STANDIN_FUNCTION(InitializeTransientSettings);
+	STANDIN_FUNCTION(GetEffectiveFrameRate, TEXT("InSequence"));
 }

@@ -177,21 +177,21 @@ void UMoviePipelineQueue::OnAnyObjectModified(UObject* InModifiedObject)
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(Jobs, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
-	VLMR_PROPERTY(QueueOrigin, CPF_None);
-	VLMR_FUNCTION(AllocateNewJob, TEXT("InJobType"));
-	VLMR_FUNCTION(DeleteJob, TEXT("InJob"));
-	VLMR_FUNCTION(DeleteAllJobs);
-	VLMR_FUNCTION(DuplicateJob, TEXT("InJob"));
-	VLMR_FUNCTION(GetJobs);
-	VLMR_FUNCTION(CopyFrom, TEXT("InQueue"));
-	VLMR_FUNCTION(SetJobIndex, TEXT("InJob"), TEXT("Index"));
-	VLMR_FUNCTION(GetQueueOrigin);
-	VLMR_FUNCTION(SetQueueOrigin, TEXT("InConfig"));
+	STANDIN_PROPERTY(Jobs, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
+	STANDIN_PROPERTY(QueueOrigin, CPF_None);
+	STANDIN_FUNCTION(AllocateNewJob, TEXT("InJobType"));
+	STANDIN_FUNCTION(DeleteJob, TEXT("InJob"));
+	STANDIN_FUNCTION(DeleteAllJobs);
+	STANDIN_FUNCTION(DuplicateJob, TEXT("InJob"));
+	STANDIN_FUNCTION(GetJobs);
+	STANDIN_FUNCTION(CopyFrom, TEXT("InQueue"));
+	STANDIN_FUNCTION(SetJobIndex, TEXT("InJob"), TEXT("Index"));
+	STANDIN_FUNCTION(GetQueueOrigin);
+	STANDIN_FUNCTION(SetQueueOrigin, TEXT("InConfig"));
 #if WITH_EDITOR
-	VLMR_FUNCTION(IsDirty);
-	VLMR_FUNCTION(SetIsDirty, TEXT("bNewDirtyState"));
+	STANDIN_FUNCTION(IsDirty);
+	STANDIN_FUNCTION(SetIsDirty, TEXT("bNewDirtyState"));
 #endif
 }

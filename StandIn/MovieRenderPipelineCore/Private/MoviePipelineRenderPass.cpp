@@ -11,6 +11,6 @@ FText UMoviePipelineRenderPass::GetCategoryText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineRenderPass, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineRenderPass, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

@@ -44,9 +44,9 @@ void UMoviePipelineSetting::ValidateStateImpl()
 	ValidationState = EMoviePipelineValidationState::Valid;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineSetting, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineSetting, CLASS_Abstract, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(bEnabled, CPF_None);
-	VLMR_FUNCTION(IsEnabled);
-	VLMR_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
+	STANDIN_PROPERTY(bEnabled, CPF_None);
+	STANDIN_FUNCTION(IsEnabled);
+	STANDIN_FUNCTION(SetIsEnabled, TEXT("bInEnabled"));
 }

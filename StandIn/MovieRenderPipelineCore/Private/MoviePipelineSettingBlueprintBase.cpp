@@ -11,11 +11,11 @@ UMoviePipelineSetting_BlueprintBase::UMoviePipelineSetting_BlueprintBase()
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineSetting_BlueprintBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineSetting_BlueprintBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags DefaultsFlags = CPF_Edit | CPF_DisableEditOnInstance | CPF_BlueprintVisible;
-	VLMR_PROPERTY(CategoryText, DefaultsFlags);
-	VLMR_PROPERTY(bIsValidOnPrimary, DefaultsFlags);
-	VLMR_PROPERTY(bIsValidOnShots, DefaultsFlags);
-	VLMR_PROPERTY(bCanBeDisabled, DefaultsFlags);
+	STANDIN_PROPERTY(CategoryText, DefaultsFlags);
+	STANDIN_PROPERTY(bIsValidOnPrimary, DefaultsFlags);
+	STANDIN_PROPERTY(bIsValidOnShots, DefaultsFlags);
+	STANDIN_PROPERTY(bCanBeDisabled, DefaultsFlags);
 }

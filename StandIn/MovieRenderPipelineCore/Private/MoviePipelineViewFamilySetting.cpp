@@ -4,6 +4,6 @@
 
 UMoviePipelineViewFamilySetting::UMoviePipelineViewFamilySetting() = default;
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineViewFamilySetting, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineViewFamilySetting, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

@@ -4,27 +4,27 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_ENUM(EMovieRenderPipelineState, "MovieRenderPipelineCore", Uninitialized, ProducingFrames, Finalize, Export, Finished)
-VLMR_IMPLEMENT_ENUM(EMovieRenderShotState, "MovieRenderPipelineCore", Uninitialized, WarmingUp, MotionBlur, Rendering, CoolingDown, Finished)
-VLMR_IMPLEMENT_ENUM(EMoviePipelineShutterTiming, "MovieRenderPipelineCore", FrameOpen, FrameCenter, FrameClose)
+STANDIN_IMPLEMENT_ENUM(EMovieRenderPipelineState, "MovieRenderPipelineCore", Uninitialized, ProducingFrames, Finalize, Export, Finished)
+STANDIN_IMPLEMENT_ENUM(EMovieRenderShotState, "MovieRenderPipelineCore", Uninitialized, WarmingUp, MotionBlur, Rendering, CoolingDown, Finished)
+STANDIN_IMPLEMENT_ENUM(EMoviePipelineShutterTiming, "MovieRenderPipelineCore", FrameOpen, FrameCenter, FrameClose)
 
-VLMR_IMPLEMENT_STRUCT(FMoviePipelineConsoleVariableEntry, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_STRUCT(FMoviePipelineConsoleVariableEntry, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(Name, CPF_Edit | CPF_BlueprintVisible);
-	VLMR_PROPERTY(Value, CPF_Edit | CPF_BlueprintVisible);
-	VLMR_PROPERTY(bIsEnabled, CPF_Edit | CPF_BlueprintVisible | CPF_BlueprintReadOnly);
+	STANDIN_PROPERTY(Name, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(Value, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bIsEnabled, CPF_Edit | CPF_BlueprintVisible | CPF_BlueprintReadOnly);
 }
 
-VLMR_IMPLEMENT_STRUCT(FMoviePipelinePassIdentifier, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_STRUCT(FMoviePipelinePassIdentifier, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(Name, CPF_BlueprintVisible);
-	VLMR_PROPERTY(CameraName, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(Name, CPF_BlueprintVisible);
+	STANDIN_PROPERTY(CameraName, CPF_BlueprintVisible);
 }
 
-VLMR_IMPLEMENT_STRUCT(FMoviePipelineSidecarCamera, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_STRUCT(FMoviePipelineSidecarCamera, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(BindingId, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
-	VLMR_PROPERTY(Name, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
+	STANDIN_PROPERTY(BindingId, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
+	STANDIN_PROPERTY(Name, CPF_BlueprintVisible | CPF_BlueprintReadOnly);
 }
 
 FString UE::MoviePipeline::GetPaddingFormatString(int32 InZeroPadCount, const int32 InFrameNumber)

@@ -11,7 +11,7 @@ class UMovieGraphConfig;
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMovieJobVariableAssignmentContainer : public UObject
 {
-	VLMR_CLASS_BODY(UMovieJobVariableAssignmentContainer, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMovieJobVariableAssignmentContainer, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMovieJobVariableAssignmentContainer();

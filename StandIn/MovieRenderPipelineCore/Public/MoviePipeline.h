@@ -18,7 +18,7 @@ class UMoviePipelinePrimaryConfig;
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipeline : public UMoviePipelineBase, public FTickableGameObject
 {
-	VLMR_CLASS_BODY(UMoviePipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipeline();

@@ -9,7 +9,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineAntiAliasingSetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineAntiAliasingSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineAntiAliasingSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineAntiAliasingSetting();

@@ -11,7 +11,7 @@ DECLARE_MULTICAST_DELEGATE_OneParam(FMoviePipelineWorkFinishedNative, FMoviePipe
 UCLASS(MinimalAPI, BlueprintType, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineBase : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineBase();

@@ -12,7 +12,7 @@ class UMoviePipelineExecutorJob;
 UCLASS(MinimalAPI, meta = (ScriptName = "MoviePipelineLibrary"))
 class MOVIERENDERPIPELINECORE_API UMoviePipelineBlueprintLibrary : public UBlueprintFunctionLibrary
 {
-	VLMR_CLASS_BODY(UMoviePipelineBlueprintLibrary, UBlueprintFunctionLibrary, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineBlueprintLibrary, UBlueprintFunctionLibrary, MOVIERENDERPIPELINECORE_API)
 
 public:
 	// Rebuilds the job's shot list from the sequence's shots: one shot per shot section (or, for a sequence without

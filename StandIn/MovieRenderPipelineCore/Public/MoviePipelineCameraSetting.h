@@ -8,7 +8,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineCameraSetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineCameraSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineCameraSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineCameraSetting();

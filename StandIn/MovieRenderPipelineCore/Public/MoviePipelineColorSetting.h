@@ -8,7 +8,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineColorSetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineColorSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineColorSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineColorSetting();

@@ -12,12 +12,12 @@ enum class EMoviePipelineEncodeQuality : uint8
 	High = 2,
 	Epic = 3,
 };
-VLMR_DECLARE_ENUM(EMoviePipelineEncodeQuality, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMoviePipelineEncodeQuality, MOVIERENDERPIPELINECORE_API)
 
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineCommandLineEncoder : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineCommandLineEncoder, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineCommandLineEncoder, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineCommandLineEncoder();

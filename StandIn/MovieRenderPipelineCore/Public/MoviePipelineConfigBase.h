@@ -10,7 +10,7 @@
 UCLASS(MinimalAPI, Abstract, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineConfigBase : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineConfigBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineConfigBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineConfigBase();

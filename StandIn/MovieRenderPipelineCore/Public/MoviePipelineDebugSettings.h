@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineDebugSettings : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineDebugSettings, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDebugSettings, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineDebugSettings();

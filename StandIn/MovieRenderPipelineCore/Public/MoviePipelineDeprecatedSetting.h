@@ -8,7 +8,7 @@
 UCLASS(Deprecated)
 class MOVIERENDERPIPELINECORE_API UDEPRECATED_MoviePipelineStandInLegacySetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UDEPRECATED_MoviePipelineStandInLegacySetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UDEPRECATED_MoviePipelineStandInLegacySetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UDEPRECATED_MoviePipelineStandInLegacySetting();

@@ -16,7 +16,7 @@ DECLARE_MULTICAST_DELEGATE_FourParams(FOnMoviePipelineExecutorErroredNative, UMo
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorBase : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineExecutorBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineExecutorBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineExecutorBase();

@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI)
 class MOVIERENDERPIPELINECORE_API AMoviePipelineGameMode : public AGameModeBase
 {
-	VLMR_CLASS_BODY(AMoviePipelineGameMode, AGameModeBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(AMoviePipelineGameMode, AGameModeBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	AMoviePipelineGameMode();

@@ -17,12 +17,12 @@ enum class EMoviePipelineTextureStreamingMethod : uint8
 	// Fully loads the used textures instead of streaming them in over several frames.
 	FullyLoad UMETA(DisplayName = "Fully Load Used Textures"),
 };
-VLMR_DECLARE_ENUM(EMoviePipelineTextureStreamingMethod, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMoviePipelineTextureStreamingMethod, MOVIERENDERPIPELINECORE_API)
 
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineGameOverrideSetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineGameOverrideSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineGameOverrideSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineGameOverrideSetting();

@@ -11,7 +11,7 @@ class UMoviePipelineExecutorJob;
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineLinearExecutorBase : public UMoviePipelineExecutorBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineLinearExecutorBase, UMoviePipelineExecutorBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineLinearExecutorBase, UMoviePipelineExecutorBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineLinearExecutorBase();

@@ -9,7 +9,7 @@ struct FMoviePipelineMergerOutputFrame;
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineOutputBase : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineOutputBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineOutputBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineOutputBase();

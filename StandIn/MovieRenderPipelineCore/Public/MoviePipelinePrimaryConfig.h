@@ -12,7 +12,7 @@ class UMoviePipelineOutputSetting;
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelinePrimaryConfig : public UMoviePipelineConfigBase
 {
-	VLMR_CLASS_BODY(UMoviePipelinePrimaryConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelinePrimaryConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelinePrimaryConfig();

@@ -23,14 +23,14 @@ enum class EMoviePipelineConfigMode : uint8
 	Graph,
 	Basic,
 };
-VLMR_DECLARE_ENUM(EMoviePipelineConfigMode, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMoviePipelineConfigMode, MOVIERENDERPIPELINECORE_API)
 #endif
 
 // One shot of a job: a camera cut (inner name) inside a shot section (outer name) of the job's sequence.
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorShot : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineExecutorShot, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineExecutorShot, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineExecutorShot();
@@ -138,7 +138,7 @@ private:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorJob : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineExecutorJob, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineExecutorJob, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineExecutorJob();
@@ -304,7 +304,7 @@ private:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineQueue : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineQueue, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineQueue, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineQueue();

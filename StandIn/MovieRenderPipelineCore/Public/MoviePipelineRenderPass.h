@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineRenderPass : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineRenderPass, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineRenderPass, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineRenderPass();

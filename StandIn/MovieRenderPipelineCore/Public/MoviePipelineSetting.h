@@ -18,7 +18,7 @@ enum class EMoviePipelineValidationState : uint8
 UCLASS(MinimalAPI, BlueprintType, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineSetting : public UObject
 {
-	VLMR_CLASS_BODY(UMoviePipelineSetting, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineSetting, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineSetting();

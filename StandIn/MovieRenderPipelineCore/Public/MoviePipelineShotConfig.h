@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineShotConfig : public UMoviePipelineConfigBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineShotConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineShotConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineShotConfig();

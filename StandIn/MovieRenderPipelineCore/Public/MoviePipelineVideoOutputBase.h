@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineVideoOutputBase : public UMoviePipelineOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineVideoOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineVideoOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineVideoOutputBase();

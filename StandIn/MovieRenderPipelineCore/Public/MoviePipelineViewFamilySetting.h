@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, BlueprintType, Abstract)
 class MOVIERENDERPIPELINECORE_API UMoviePipelineViewFamilySetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineViewFamilySetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMoviePipelineViewFamilySetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMoviePipelineViewFamilySetting();

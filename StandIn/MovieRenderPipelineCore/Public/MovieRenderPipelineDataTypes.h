@@ -21,7 +21,7 @@ enum class EMovieRenderPipelineState : uint8
 	Export = 3,
 	Finished = 4,
 };
-VLMR_DECLARE_ENUM(EMovieRenderPipelineState, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMovieRenderPipelineState, MOVIERENDERPIPELINECORE_API)
 
 // Stand-in choice: CoolingDown (seen in 5.7) is offered from 5.5 on, as the temporal denoisers it serves shipped by then.
 UENUM(BlueprintType)
@@ -34,7 +34,7 @@ enum class EMovieRenderShotState : uint8
 	CoolingDown = 4,
 	Finished = 5,
 };
-VLMR_DECLARE_ENUM(EMovieRenderShotState, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMovieRenderShotState, MOVIERENDERPIPELINECORE_API)
 
 UENUM(BlueprintType)
 enum class EMoviePipelineShutterTiming : uint8
@@ -43,13 +43,13 @@ enum class EMoviePipelineShutterTiming : uint8
 	FrameCenter,
 	FrameClose,
 };
-VLMR_DECLARE_ENUM(EMoviePipelineShutterTiming, MOVIERENDERPIPELINECORE_API)
+STANDIN_DECLARE_ENUM(EMoviePipelineShutterTiming, MOVIERENDERPIPELINECORE_API)
 
 // One console variable override: applied with its value while a job renders, when enabled.
 USTRUCT(BlueprintType)
 struct MOVIERENDERPIPELINECORE_API FMoviePipelineConsoleVariableEntry
 {
-	VLMR_STRUCT_BODY(FMoviePipelineConsoleVariableEntry, MOVIERENDERPIPELINECORE_API)
+	STANDIN_STRUCT_BODY(FMoviePipelineConsoleVariableEntry, MOVIERENDERPIPELINECORE_API)
 
 public:
 	FMoviePipelineConsoleVariableEntry() = default;
@@ -79,7 +79,7 @@ public:
 USTRUCT(BlueprintType)
 struct MOVIERENDERPIPELINECORE_API FMoviePipelinePassIdentifier
 {
-	VLMR_STRUCT_BODY(FMoviePipelinePassIdentifier, MOVIERENDERPIPELINECORE_API)
+	STANDIN_STRUCT_BODY(FMoviePipelinePassIdentifier, MOVIERENDERPIPELINECORE_API)
 
 public:
 	FMoviePipelinePassIdentifier() = default;
@@ -104,7 +104,7 @@ public:
 USTRUCT(BlueprintType)
 struct MOVIERENDERPIPELINECORE_API FMoviePipelineSidecarCamera
 {
-	VLMR_STRUCT_BODY(FMoviePipelineSidecarCamera, MOVIERENDERPIPELINECORE_API)
+	STANDIN_STRUCT_BODY(FMoviePipelineSidecarCamera, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")

@@ -246,17 +246,17 @@ FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(U
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
 {
-	VLMR_FUNCTION(CreateJobFromSequence, TEXT("InPipelineQueue"), TEXT("InSequence"));
+	STANDIN_FUNCTION(CreateJobFromSequence, TEXT("InPipelineQueue"), TEXT("InSequence"));
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
-	VLMR_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"), TEXT("bForce"));
-	VLMR_FUNCTION(TryResolveOutputDirectoryFromJob, TEXT("InJob"), TEXT("OutError"));
+	STANDIN_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"), TEXT("bForce"));
+	STANDIN_FUNCTION(TryResolveOutputDirectoryFromJob, TEXT("InJob"), TEXT("OutError"));
 #else
-	VLMR_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"));
+	STANDIN_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"));
 #endif
-	VLMR_FUNCTION(GetDisplayOutputPathFromJob, TEXT("InJob"), TEXT("OutOutputPath"));
-	VLMR_FUNCTION(ResolveOutputDirectoryFromJob, TEXT("InJob"));
+	STANDIN_FUNCTION(GetDisplayOutputPathFromJob, TEXT("InJob"), TEXT("OutOutputPath"));
+	STANDIN_FUNCTION(ResolveOutputDirectoryFromJob, TEXT("InJob"));
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -146,9 +146,9 @@ void UMoviePipelinePIEExecutor::RaiseQueueProgress(float InProgress)
 
 #undef LOCTEXT_NAMESPACE
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelinePIEExecutor, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelinePIEExecutor, CLASS_None, "MovieRenderPipelineEditor")
 {
-	VLMR_FUNCTION(SetIsRenderingOffscreen, TEXT("bInRenderOffscreen"));
-	VLMR_FUNCTION(IsRenderingOffscreen);
-	VLMR_FUNCTION(SetAllowUsingUnsavedLevels, TEXT("bInAllowUsingUnsavedLevels"));
+	STANDIN_FUNCTION(SetIsRenderingOffscreen, TEXT("bInRenderOffscreen"));
+	STANDIN_FUNCTION(IsRenderingOffscreen);
+	STANDIN_FUNCTION(SetAllowUsingUnsavedLevels, TEXT("bInAllowUsingUnsavedLevels"));
 }

@@ -121,19 +121,19 @@ bool UMoviePipelineQueueSubsystem::RefreshShotListsFromSequences()
 	return bAnyShotsChanged;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
 {
-	VLMR_PROPERTY(ActiveExecutor, CPF_Transient);
-	VLMR_PROPERTY(CurrentQueue, CPF_Transient | CPF_ExportObject | CPF_InstancedReference);
-	VLMR_FUNCTION(GetQueue);
-	VLMR_FUNCTION(RenderQueueWithExecutor, TEXT("InExecutorType"));
-	VLMR_FUNCTION(RenderQueueWithExecutorInstance, TEXT("InExecutor"));
+	STANDIN_PROPERTY(ActiveExecutor, CPF_Transient);
+	STANDIN_PROPERTY(CurrentQueue, CPF_Transient | CPF_ExportObject | CPF_InstancedReference);
+	STANDIN_FUNCTION(GetQueue);
+	STANDIN_FUNCTION(RenderQueueWithExecutor, TEXT("InExecutorType"));
+	STANDIN_FUNCTION(RenderQueueWithExecutorInstance, TEXT("InExecutor"));
 #if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
-	VLMR_FUNCTION(RenderQueueInstanceWithExecutor, TEXT("InQueue"), TEXT("InExecutorType"));
-	VLMR_FUNCTION(RenderQueueInstanceWithExecutorInstance, TEXT("InQueue"), TEXT("InExecutor"));
+	STANDIN_FUNCTION(RenderQueueInstanceWithExecutor, TEXT("InQueue"), TEXT("InExecutorType"));
+	STANDIN_FUNCTION(RenderQueueInstanceWithExecutorInstance, TEXT("InQueue"), TEXT("InExecutor"));
 #endif
-	VLMR_FUNCTION(GetActiveExecutor);
-	VLMR_FUNCTION(IsRendering);
-	VLMR_FUNCTION(IsQueueDirty);
-	VLMR_FUNCTION(LoadQueue, TEXT("QueueToLoad"), TEXT("bPromptOnReplacingDirtyQueue"));
+	STANDIN_FUNCTION(GetActiveExecutor);
+	STANDIN_FUNCTION(IsRendering);
+	STANDIN_FUNCTION(IsQueueDirty);
+	STANDIN_FUNCTION(LoadQueue, TEXT("QueueToLoad"), TEXT("bPromptOnReplacingDirtyQueue"));
 }

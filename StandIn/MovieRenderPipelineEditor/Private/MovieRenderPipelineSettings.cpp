@@ -18,17 +18,17 @@ UMovieRenderPipelineProjectSettings::UMovieRenderPipelineProjectSettings()
 	DefaultClasses.Add(FSoftClassPath(UMoviePipelineDeferredPassBase::StaticClass()));
 }
 
-VLMR_IMPLEMENT_CLASS(UMovieRenderPipelineProjectSettings, CLASS_Config | CLASS_DefaultConfig, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_CLASS(UMovieRenderPipelineProjectSettings, CLASS_Config | CLASS_DefaultConfig, "MovieRenderPipelineEditor")
 {
 	constexpr EPropertyFlags ConfigFlags = CPF_Config | CPF_Edit;
-	VLMR_PROPERTY(PresetSaveDir, ConfigFlags)->SetMetaData(TEXT("ContentDir"), TEXT(""));
-	VLMR_PROPERTY(LastPresetOrigin, ConfigFlags);
-	VLMR_PROPERTY(DefaultLocalExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
-	VLMR_PROPERTY(DefaultRemoteExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
-	VLMR_PROPERTY(DefaultExecutorJob, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorJob"));
-	VLMR_PROPERTY(DefaultPipeline, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineBase"));
-	FProperty* DefaultClassesProperty = VLMR_PROPERTY(DefaultClasses, ConfigFlags | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(PresetSaveDir, ConfigFlags)->SetMetaData(TEXT("ContentDir"), TEXT(""));
+	STANDIN_PROPERTY(LastPresetOrigin, ConfigFlags);
+	STANDIN_PROPERTY(DefaultLocalExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
+	STANDIN_PROPERTY(DefaultRemoteExecutor, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorBase"));
+	STANDIN_PROPERTY(DefaultExecutorJob, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineExecutorJob"));
+	STANDIN_PROPERTY(DefaultPipeline, ConfigFlags | CPF_BlueprintVisible)->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineBase"));
+	FProperty* DefaultClassesProperty = STANDIN_PROPERTY(DefaultClasses, ConfigFlags | CPF_BlueprintVisible);
 	DefaultClassesProperty->SetMetaData(TEXT("DisplayName"), TEXT("Default Job Settings Classes"));
 	DefaultClassesProperty->SetMetaData(TEXT("MetaClass"), TEXT("/Script/MovieRenderPipelineCore.MoviePipelineSetting"));
-	VLMR_PROPERTY(DefaultGraph, ConfigFlags | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(DefaultGraph, ConfigFlags | CPF_BlueprintVisible);
 }

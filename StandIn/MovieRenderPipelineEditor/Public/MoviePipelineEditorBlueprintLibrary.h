@@ -12,7 +12,7 @@ class UMoviePipelineQueue;
 UCLASS(MinimalAPI, meta = (ScriptName = "MoviePipelineEditorLibrary"))
 class MOVIERENDERPIPELINEEDITOR_API UMoviePipelineEditorBlueprintLibrary : public UBlueprintFunctionLibrary
 {
-	VLMR_CLASS_BODY(UMoviePipelineEditorBlueprintLibrary, UBlueprintFunctionLibrary, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_CLASS_BODY(UMoviePipelineEditorBlueprintLibrary, UBlueprintFunctionLibrary, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
 	// A new job of the queue for the sequence, in the editor's current map, named after the sequence.

@@ -17,7 +17,7 @@ DECLARE_MULTICAST_DELEGATE_OneParam(FOnMoviePipelineIndividualJobStartedNative, 
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINEEDITOR_API UMoviePipelinePIEExecutor : public UMoviePipelineLinearExecutorBase, public FTickableEditorObject
 {
-	VLMR_CLASS_BODY(UMoviePipelinePIEExecutor, UMoviePipelineLinearExecutorBase, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_CLASS_BODY(UMoviePipelinePIEExecutor, UMoviePipelineLinearExecutorBase, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
 	UMoviePipelinePIEExecutor();

@@ -16,7 +16,7 @@ DECLARE_MULTICAST_DELEGATE(FOnMoviePipelineQueueLoaded);
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINEEDITOR_API UMoviePipelineQueueSubsystem : public UEditorSubsystem
 {
-	VLMR_CLASS_BODY(UMoviePipelineQueueSubsystem, UEditorSubsystem, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_CLASS_BODY(UMoviePipelineQueueSubsystem, UEditorSubsystem, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
 	UMoviePipelineQueueSubsystem();

@@ -13,7 +13,7 @@ class UMovieGraphConfig;
 UCLASS(MinimalAPI, BlueprintType, Config = Editor, defaultconfig)
 class MOVIERENDERPIPELINEEDITOR_API UMovieRenderPipelineProjectSettings : public UDeveloperSettings
 {
-	VLMR_CLASS_BODY(UMovieRenderPipelineProjectSettings, UDeveloperSettings, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_CLASS_BODY(UMovieRenderPipelineProjectSettings, UDeveloperSettings, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
 	UMovieRenderPipelineProjectSettings();

@@ -70,34 +70,34 @@ FText UMoviePipelineDeferredPass_PathTracer::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPassBase, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPassBase, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
-	VLMR_PROPERTY(bAccumulatorIncludesAlpha, EditableFlags);
-	VLMR_PROPERTY(bDisableMultisampleEffects, EditableFlags);
-	VLMR_PROPERTY(bUse32BitPostProcessMaterials, EditableFlags);
-	VLMR_PROPERTY(bRenderMainPass, EditableFlags);
-	VLMR_PROPERTY(bAddDefaultLayer, EditableFlags);
-	VLMR_PROPERTY(DataLayers, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.DataLayerAsset"));
+	STANDIN_PROPERTY(bAccumulatorIncludesAlpha, EditableFlags);
+	STANDIN_PROPERTY(bDisableMultisampleEffects, EditableFlags);
+	STANDIN_PROPERTY(bUse32BitPostProcessMaterials, EditableFlags);
+	STANDIN_PROPERTY(bRenderMainPass, EditableFlags);
+	STANDIN_PROPERTY(bAddDefaultLayer, EditableFlags);
+	STANDIN_PROPERTY(DataLayers, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.DataLayerAsset"));
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_Unlit, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_Unlit, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_DetailLighting, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_DetailLighting, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_LightingOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_LightingOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_ReflectionsOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_ReflectionsOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_PathTracer, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_PathTracer, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
-	VLMR_PROPERTY(bReferenceMotionBlur, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bReferenceMotionBlur, CPF_Edit | CPF_BlueprintVisible);
 }

@@ -3,7 +3,7 @@
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
-VLMR_IMPLEMENT_ENUM(EEXRCompressionFormat, "MovieRenderPipelineRenderPasses", None, PIZ, ZIP, DWAA, DWAB)
+STANDIN_IMPLEMENT_ENUM(EEXRCompressionFormat, "MovieRenderPipelineRenderPasses", None, PIZ, ZIP, DWAA, DWAB)
 
 UMoviePipelineImageSequenceOutput_EXR::UMoviePipelineImageSequenceOutput_EXR()
 	: Compression(EEXRCompressionFormat::PIZ)
@@ -19,8 +19,8 @@ FText UMoviePipelineImageSequenceOutput_EXR::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_EXR, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_EXR, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
-	VLMR_PROPERTY(Compression, CPF_Edit | CPF_BlueprintVisible);
-	VLMR_PROPERTY(bMultilayer, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(Compression, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bMultilayer, CPF_Edit | CPF_BlueprintVisible);
 }

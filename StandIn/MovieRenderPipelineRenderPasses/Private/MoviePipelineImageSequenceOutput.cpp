@@ -121,19 +121,19 @@ FText UMoviePipelineImageSequenceOutput_JPG::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
-	VLMR_PROPERTY(bWriteAlpha, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bWriteAlpha, CPF_Edit | CPF_BlueprintVisible);
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }

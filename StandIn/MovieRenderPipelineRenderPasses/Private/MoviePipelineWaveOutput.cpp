@@ -12,7 +12,7 @@ FText UMoviePipelineWaveOutput::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineWaveOutput, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineWaveOutput, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
-	VLMR_PROPERTY(FileNameFormatOverride, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(FileNameFormatOverride, CPF_Edit | CPF_BlueprintVisible);
 }

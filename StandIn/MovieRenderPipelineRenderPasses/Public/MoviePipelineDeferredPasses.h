@@ -9,7 +9,7 @@
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPassBase : public UMoviePipelineImagePassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPassBase, UMoviePipelineImagePassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPassBase, UMoviePipelineImagePassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPassBase();
@@ -40,7 +40,7 @@ public:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_Unlit : public UMoviePipelineDeferredPassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPass_Unlit, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_Unlit, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPass_Unlit();
@@ -53,7 +53,7 @@ public:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_DetailLighting : public UMoviePipelineDeferredPassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPass_DetailLighting, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_DetailLighting, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPass_DetailLighting();
@@ -66,7 +66,7 @@ public:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_LightingOnly : public UMoviePipelineDeferredPassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPass_LightingOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_LightingOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPass_LightingOnly();
@@ -79,7 +79,7 @@ public:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_ReflectionsOnly : public UMoviePipelineDeferredPassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPass_ReflectionsOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_ReflectionsOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPass_ReflectionsOnly();
@@ -92,7 +92,7 @@ public:
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_PathTracer : public UMoviePipelineDeferredPassBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineDeferredPass_PathTracer, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_PathTracer, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineDeferredPass_PathTracer();

@@ -18,12 +18,12 @@ enum class EEXRCompressionFormat : uint8
 	// As DWAA in blocks of 256 scanlines.
 	DWAB,
 };
-VLMR_DECLARE_ENUM(EEXRCompressionFormat, MOVIERENDERPIPELINERENDERPASSES_API)
+STANDIN_DECLARE_ENUM(EEXRCompressionFormat, MOVIERENDERPIPELINERENDERPASSES_API)
 
 UCLASS(MinimalAPI)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_EXR : public UMoviePipelineImageSequenceOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_EXR, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutput_EXR, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImageSequenceOutput_EXR();

@@ -8,7 +8,7 @@
 UCLASS(MinimalAPI, BlueprintType, Abstract)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImagePassBase : public UMoviePipelineRenderPass
 {
-	VLMR_CLASS_BODY(UMoviePipelineImagePassBase, UMoviePipelineRenderPass, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImagePassBase, UMoviePipelineRenderPass, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImagePassBase();

@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable, Abstract)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutputBase : public UMoviePipelineOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImageSequenceOutputBase();
@@ -26,7 +26,7 @@ protected:
 UCLASS(MinimalAPI)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_BMP : public UMoviePipelineImageSequenceOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_BMP, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutput_BMP, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImageSequenceOutput_BMP();
@@ -39,7 +39,7 @@ public:
 UCLASS(MinimalAPI)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_PNG : public UMoviePipelineImageSequenceOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_PNG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutput_PNG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImageSequenceOutput_PNG();
@@ -58,7 +58,7 @@ protected:
 UCLASS(MinimalAPI)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_JPG : public UMoviePipelineImageSequenceOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineImageSequenceOutput_JPG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutput_JPG, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineImageSequenceOutput_JPG();

@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineWaveOutput : public UMoviePipelineOutputBase
 {
-	VLMR_CLASS_BODY(UMoviePipelineWaveOutput, UMoviePipelineOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_CLASS_BODY(UMoviePipelineWaveOutput, UMoviePipelineOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
 	UMoviePipelineWaveOutput();

@@ -17,8 +17,8 @@ FText UMoviePipelineBurnInSetting::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineBurnInSetting, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineBurnInSetting, CLASS_None, "MovieRenderPipelineSettings")
 {
-	VLMR_PROPERTY(BurnInClass, CPF_Edit | CPF_BlueprintVisible);
-	VLMR_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(BurnInClass, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
 }

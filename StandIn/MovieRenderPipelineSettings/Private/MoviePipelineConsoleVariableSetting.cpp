@@ -75,17 +75,17 @@ bool UMoviePipelineConsoleVariableSetting::UpdateConsoleVariableEnableState(cons
 	return true;
 }
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineConsoleVariableSetting, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineConsoleVariableSetting, CLASS_None, "MovieRenderPipelineSettings")
 {
-	VLMR_PROPERTY(ConsoleVariables_DEPRECATED, CPF_Deprecated)->SetMetaData(TEXT("DeprecatedProperty"), TEXT(""));
-	VLMR_PROPERTY(StartConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
-	VLMR_PROPERTY(EndConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
-	FProperty* CVarsProperty = VLMR_PROPERTY(CVars, CPF_Edit);
+	STANDIN_PROPERTY(ConsoleVariables_DEPRECATED, CPF_Deprecated)->SetMetaData(TEXT("DeprecatedProperty"), TEXT(""));
+	STANDIN_PROPERTY(StartConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(EndConsoleCommands, CPF_Edit | CPF_BlueprintVisible);
+	FProperty* CVarsProperty = STANDIN_PROPERTY(CVars, CPF_Edit);
 	CVarsProperty->SetMetaData(TEXT("DisplayName"), TEXT("Console Variables"));
 	CVarsProperty->SetMetaData(TEXT("ScriptNoExport"), TEXT(""));
-	VLMR_FUNCTION(GetConsoleVariables);
-	VLMR_FUNCTION(RemoveConsoleVariable, TEXT("Name"), TEXT("bRemoveAllInstances"));
-	VLMR_FUNCTION(AddOrUpdateConsoleVariable, TEXT("Name"), TEXT("Value"));
-	VLMR_FUNCTION(AddConsoleVariable, TEXT("Name"), TEXT("Value"));
-	VLMR_FUNCTION(UpdateConsoleVariableEnableState, TEXT("Name"), TEXT("bIsEnabled"));
+	STANDIN_FUNCTION(GetConsoleVariables);
+	STANDIN_FUNCTION(RemoveConsoleVariable, TEXT("Name"), TEXT("bRemoveAllInstances"));
+	STANDIN_FUNCTION(AddOrUpdateConsoleVariable, TEXT("Name"), TEXT("Value"));
+	STANDIN_FUNCTION(AddConsoleVariable, TEXT("Name"), TEXT("Value"));
+	STANDIN_FUNCTION(UpdateConsoleVariableEnableState, TEXT("Name"), TEXT("bIsEnabled"));
 }

@@ -14,7 +14,7 @@ FText UMoviePipelineWidgetRenderer::GetDisplayText() const
 }
 #endif
 
-VLMR_IMPLEMENT_CLASS(UMoviePipelineWidgetRenderer, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_CLASS(UMoviePipelineWidgetRenderer, CLASS_None, "MovieRenderPipelineSettings")
 {
-	VLMR_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
 }

@@ -8,7 +8,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineBurnInSetting : public UMoviePipelineRenderPass
 {
-	VLMR_CLASS_BODY(UMoviePipelineBurnInSetting, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
+	STANDIN_CLASS_BODY(UMoviePipelineBurnInSetting, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
 
 public:
 	UMoviePipelineBurnInSetting();

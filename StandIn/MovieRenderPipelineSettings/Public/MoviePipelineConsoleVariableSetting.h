@@ -9,7 +9,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineConsoleVariableSetting : public UMoviePipelineSetting
 {
-	VLMR_CLASS_BODY(UMoviePipelineConsoleVariableSetting, UMoviePipelineSetting, MOVIERENDERPIPELINESETTINGS_API)
+	STANDIN_CLASS_BODY(UMoviePipelineConsoleVariableSetting, UMoviePipelineSetting, MOVIERENDERPIPELINESETTINGS_API)
 
 public:
 	UMoviePipelineConsoleVariableSetting();

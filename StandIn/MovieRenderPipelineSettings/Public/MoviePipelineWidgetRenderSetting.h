@@ -7,7 +7,7 @@
 UCLASS(MinimalAPI, Blueprintable)
 class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineWidgetRenderer : public UMoviePipelineRenderPass
 {
-	VLMR_CLASS_BODY(UMoviePipelineWidgetRenderer, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
+	STANDIN_CLASS_BODY(UMoviePipelineWidgetRenderer, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
 
 public:
 	UMoviePipelineWidgetRenderer();

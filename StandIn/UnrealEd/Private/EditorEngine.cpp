@@ -45,10 +45,10 @@ namespace UE::UnrealEd::Private
 
 UEditorEngine::UEditorEngine() = default;
 
-VLMR_IMPLEMENT_CLASS(UEditorEngine, CLASS_Transient, "UnrealEd")
+STANDIN_IMPLEMENT_CLASS(UEditorEngine, CLASS_Transient, "UnrealEd")
 {
-	VLMR_PROPERTY(Trans, CPF_None);
-	VLMR_PROPERTY(PlayWorld, CPF_None);
+	STANDIN_PROPERTY(Trans, CPF_None);
+	STANDIN_PROPERTY(PlayWorld, CPF_None);
 }
 
 void UEditorEngine::Init(IEngineLoop* InEngineLoop)

@@ -3,6 +3,6 @@
 
 UEditorSubsystem::UEditorSubsystem() = default;
 
-VLMR_IMPLEMENT_CLASS(UEditorSubsystem, CLASS_Abstract, "UnrealEd")
+STANDIN_IMPLEMENT_CLASS(UEditorSubsystem, CLASS_Abstract, "UnrealEd")
 {
 }

@@ -7,7 +7,7 @@
 
 UTransBuffer::UTransBuffer() = default;
 
-VLMR_IMPLEMENT_CLASS(UTransBuffer, CLASS_Transient, "UnrealEd")
+STANDIN_IMPLEMENT_CLASS(UTransBuffer, CLASS_Transient, "UnrealEd")
 {
 }
 

@@ -3,6 +3,6 @@
 
 UTransactor::UTransactor() = default;
 
-VLMR_IMPLEMENT_CLASS(UTransactor, CLASS_Abstract | CLASS_Transient, "UnrealEd")
+STANDIN_IMPLEMENT_CLASS(UTransactor, CLASS_Abstract | CLASS_Transient, "UnrealEd")
 {
 }

@@ -6,6 +6,6 @@ UUnrealEdEngine* GUnrealEd = nullptr;
 
 UUnrealEdEngine::UUnrealEdEngine() = default;
 
-VLMR_IMPLEMENT_CLASS(UUnrealEdEngine, CLASS_Transient, "UnrealEd")
+STANDIN_IMPLEMENT_CLASS(UUnrealEdEngine, CLASS_Transient, "UnrealEd")
 {
 }

@@ -6,7 +6,7 @@
 
 class UNREALED_API UEditorSubsystem : public UDynamicSubsystem
 {
-	VLMR_CLASS_BODY(UEditorSubsystem, UDynamicSubsystem, UNREALED_API)
+	STANDIN_CLASS_BODY(UEditorSubsystem, UDynamicSubsystem, UNREALED_API)
 
 public:
 	UEditorSubsystem();

@@ -9,17 +9,17 @@
 // Lacks every function the module calls by reflection.
 class UVLMRContractEmpty : public UObject
 {
-	VLMR_CLASS_BODY(UVLMRContractEmpty, UObject, )
+	STANDIN_CLASS_BODY(UVLMRContractEmpty, UObject, )
 };
 
-VLMR_IMPLEMENT_CLASS(UVLMRContractEmpty, CLASS_None, "VLMRModuleTests")
+STANDIN_IMPLEMENT_CLASS(UVLMRContractEmpty, CLASS_None, "VLMRModuleTests")
 {
 }
 
 // Has the functions, with a ReturnValue of the wrong property class for GetEvaluatedGraphs.
 class UVLMRContractHolder : public UObject
 {
-	VLMR_CLASS_BODY(UVLMRContractHolder, UObject, )
+	STANDIN_CLASS_BODY(UVLMRContractHolder, UObject, )
 public:
 	int32 GetEvaluatedGraphs() { return 3; }
 
@@ -35,10 +35,10 @@ public:
 	}
 };
 
-VLMR_IMPLEMENT_CLASS(UVLMRContractHolder, CLASS_None, "VLMRModuleTests")
+STANDIN_IMPLEMENT_CLASS(UVLMRContractHolder, CLASS_None, "VLMRModuleTests")
 {
-	VLMR_FUNCTION(GetEvaluatedGraphs);
-	VLMR_FUNCTION(GetVariableStringValueByName, TEXT("InVariableName"), TEXT("InDefaultValue"), TEXT("OutVariableValue"));
+	STANDIN_FUNCTION(GetEvaluatedGraphs);
+	STANDIN_FUNCTION(GetVariableStringValueByName, TEXT("InVariableName"), TEXT("InDefaultValue"), TEXT("OutVariableValue"));
 }
 
 namespace

@@ -12,14 +12,14 @@
 
 class UVLMRSupportTestAsset : public UObject
 {
-	VLMR_CLASS_BODY(UVLMRSupportTestAsset, UObject, )
+	STANDIN_CLASS_BODY(UVLMRSupportTestAsset, UObject, )
 public:
 	int32 Value = 0;
 };
 
-VLMR_IMPLEMENT_CLASS(UVLMRSupportTestAsset, CLASS_None, "VLMRModuleTests")
+STANDIN_IMPLEMENT_CLASS(UVLMRSupportTestAsset, CLASS_None, "VLMRModuleTests")
 {
-	VLMR_PROPERTY(Value, CPF_Edit);
+	STANDIN_PROPERTY(Value, CPF_Edit);
 }
 
 namespace

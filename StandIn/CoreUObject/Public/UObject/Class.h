@@ -18,7 +18,7 @@ COREUOBJECT_API DECLARE_LOG_CATEGORY_EXTERN(LogClass, Log, All);
 
 class COREUOBJECT_API UField : public UObject
 {
-	VLMR_CLASS_BODY(UField, UObject, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UField, UObject, COREUOBJECT_API)
 
 public:
 	UField* Next = nullptr;
@@ -50,7 +50,7 @@ private:
 // A structure with reflected properties: the base of classes, script structs and functions.
 class COREUOBJECT_API UStruct : public UField
 {
-	VLMR_CLASS_BODY(UStruct, UField, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UStruct, UField, COREUOBJECT_API)
 
 public:
 	virtual ~UStruct();
@@ -122,7 +122,7 @@ struct COREUOBJECT_API FStandInCppStructOps
 
 class COREUOBJECT_API UScriptStruct : public UStruct
 {
-	VLMR_CLASS_BODY(UScriptStruct, UStruct, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UScriptStruct, UStruct, COREUOBJECT_API)
 
 public:
 	EStructFlags StructFlags = STRUCT_NoFlags;
@@ -154,7 +154,7 @@ private:
 
 class COREUOBJECT_API UFunction : public UStruct
 {
-	VLMR_CLASS_BODY(UFunction, UStruct, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UFunction, UStruct, COREUOBJECT_API)
 
 public:
 	// Reads the parameters from the block, calls the C++ function on Context and writes out parameters and the result.
@@ -184,7 +184,7 @@ private:
 
 class COREUOBJECT_API UClass : public UStruct
 {
-	VLMR_CLASS_BODY(UClass, UStruct, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UClass, UStruct, COREUOBJECT_API)
 
 public:
 	using FAddReferencedObjects = void (*)(UObject*, FReferenceCollector&);
@@ -230,7 +230,7 @@ public:
 // An enumeration: names in declaration order, each with its value, as the engine keeps them.
 class COREUOBJECT_API UEnum : public UField
 {
-	VLMR_CLASS_BODY(UEnum, UField, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UEnum, UField, COREUOBJECT_API)
 
 public:
 	enum class ECppForm : uint8 { Regular, Namespaced, EnumClass };

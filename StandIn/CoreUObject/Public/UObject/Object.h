@@ -18,7 +18,7 @@ class ITargetPlatform;
 
 class COREUOBJECT_API UObject
 {
-	VLMR_CLASS_BODY(UObject, UObject, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UObject, UObject, COREUOBJECT_API)
 
 public:
 	// Name, outer, class and flags come from the object being constructed (NewObject sets them before the constructor runs).

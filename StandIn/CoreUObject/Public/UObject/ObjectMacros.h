@@ -496,7 +496,7 @@ namespace UE::CoreUObject::StandIn
 }
 
 // Declares the reflection entry points of a native class; put it first in the class body.
-#define VLMR_CLASS_BODY(TClass, TSuperClass, TApi) \
+#define STANDIN_CLASS_BODY(TClass, TSuperClass, TApi) \
 public: \
 	using ThisClass = TClass; \
 	using Super = TSuperClass; \
@@ -507,11 +507,11 @@ public: \
 private:
 
 // Defines the class object of a native class; the braces that follow are the body of its reflection registration:
-//	VLMR_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
+//	STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
 //	{
-//		VLMR_PROPERTY(Jobs, CPF_Edit | CPF_InstancedReference);
+//		STANDIN_PROPERTY(Jobs, CPF_Edit | CPF_InstancedReference);
 //	}
-#define VLMR_IMPLEMENT_CLASS(TClass, TClassFlags, TModuleName) \
+#define STANDIN_IMPLEMENT_CLASS(TClass, TClassFlags, TModuleName) \
 	UObject* TClass::StandInConstruct(void* Memory) { return UE::CoreUObject::StandIn::ConstructNativeObject<TClass>(Memory); } \
 	UClass* TClass::StaticClass() \
 	{ \
@@ -521,7 +521,7 @@ private:
 			UE::CoreUObject::StandIn::FNativeClassParams Params; \
 			Params.Name = TEXT(#TClass); \
 			Params.ModuleName = TEXT(TModuleName); \
-			Params.SuperClass = VLMR_SUPER_STATIC_CLASS(TClass); \
+			Params.SuperClass = STANDIN_SUPER_STATIC_CLASS(TClass); \
 			Params.Size = sizeof(TClass); \
 			Params.Alignment = alignof(TClass); \
 			Params.ClassFlags = EClassFlags(TClassFlags); \
@@ -535,17 +535,17 @@ private:
 	static UE::CoreUObject::StandIn::FNativeClassRegistrant GStandInRegistrant_##TClass(&TClass::StaticClass); \
 	void TClass::StandInRegisterReflection(TStandInTypeBuilder<TClass>& Builder)
 
-#define VLMR_SUPER_STATIC_CLASS(TClass) \
+#define STANDIN_SUPER_STATIC_CLASS(TClass) \
 	(std::is_same_v<TClass, TClass::Super> ? nullptr : &TClass::Super::StaticClass)
 
 // Declares the reflection entry points of a native struct; put it first in the struct body.
-#define VLMR_STRUCT_BODY(TStruct, TApi) \
+#define STANDIN_STRUCT_BODY(TStruct, TApi) \
 public: \
 	TApi static UScriptStruct* StaticStruct(); \
 	static void StandInRegisterReflection(TStandInTypeBuilder<TStruct>& Builder);
 
-// Defines the struct object of a native struct declared with VLMR_STRUCT_BODY; braces follow as for classes.
-#define VLMR_IMPLEMENT_STRUCT(TStruct, TModuleName) \
+// Defines the struct object of a native struct declared with STANDIN_STRUCT_BODY; braces follow as for classes.
+#define STANDIN_IMPLEMENT_STRUCT(TStruct, TModuleName) \
 	UScriptStruct* TStruct::StaticStruct() \
 	{ \
 		static UScriptStruct* Struct = nullptr; \
@@ -561,7 +561,7 @@ public: \
 
 // Reflection of a struct that lives in a module below CoreUObject (FIntPoint, FGuid, ...), reached through
 // TBaseStructure<T>::Get(); braces follow as for classes.
-#define VLMR_IMPLEMENT_BASE_STRUCTURE(TStruct, TModuleName) \
+#define STANDIN_IMPLEMENT_BASE_STRUCTURE(TStruct, TModuleName) \
 	static void StandInRegisterBaseStructure_##TStruct(TStandInTypeBuilder<TStruct>& Builder); \
 	UScriptStruct* TBaseStructure<TStruct>::Get() \
 	{ \
@@ -577,23 +577,23 @@ public: \
 	static void StandInRegisterBaseStructure_##TStruct(TStandInTypeBuilder<TStruct>& Builder)
 
 // Inside a registration body: one reflected property of the class or struct being registered.
-//	VLMR_PROPERTY(OutputResolution, CPF_Edit)->SetMetaData(TEXT("DisplayName"), TEXT("Output Resolution"));
-#define VLMR_PROPERTY(Member, TPropertyFlags) \
+//	STANDIN_PROPERTY(OutputResolution, CPF_Edit)->SetMetaData(TEXT("DisplayName"), TEXT("Output Resolution"));
+#define STANDIN_PROPERTY(Member, TPropertyFlags) \
 	Builder.template AddProperty<decltype(std::declval<typename std::decay_t<decltype(Builder)>::OwnerType&>().Member)>( \
 		TEXT(#Member), offsetof(typename std::decay_t<decltype(Builder)>::OwnerType, Member), EPropertyFlags(TPropertyFlags))
 
 // Inside a class registration body: a reflected member function, callable through ProcessEvent. The parameter names
 // follow the function pointer, in order; a non-void result is the "ReturnValue" parameter.
-//	VLMR_FUNCTION(GetVariableStringValueByName, TEXT("InVariableName"), TEXT("InDefaultValue"), TEXT("OutVariableValue"));
-#define VLMR_FUNCTION(Function, ...) \
+//	STANDIN_FUNCTION(GetVariableStringValueByName, TEXT("InVariableName"), TEXT("InDefaultValue"), TEXT("OutVariableValue"));
+#define STANDIN_FUNCTION(Function, ...) \
 	Builder.template AddFunction<&std::decay_t<decltype(Builder)>::OwnerType::Function>(TEXT(#Function), { __VA_ARGS__ })
 
 // Declares the UEnum of an enum type: StaticEnum<TEnum>(), exported by the owning module.
-#define VLMR_DECLARE_ENUM(TEnum, TApi) template<> TApi UEnum* StaticEnum<TEnum>();
+#define STANDIN_DECLARE_ENUM(TEnum, TApi) template<> TApi UEnum* StaticEnum<TEnum>();
 
 // Defines the UEnum of an enum type from its enumerator names, in declaration order:
-//	VLMR_IMPLEMENT_ENUM(EMovieRenderPipelineState, "MovieRenderPipelineCore", Uninitialized, ProducingFrames, Finalize)
-#define VLMR_IMPLEMENT_ENUM(TEnum, TModuleName, ...) \
+//	STANDIN_IMPLEMENT_ENUM(EMovieRenderPipelineState, "MovieRenderPipelineCore", Uninitialized, ProducingFrames, Finalize)
+#define STANDIN_IMPLEMENT_ENUM(TEnum, TModuleName, ...) \
 	template<> UEnum* StaticEnum<TEnum>() \
 	{ \
 		static UEnum* Enum = nullptr; \

@@ -45,7 +45,7 @@ FORCEINLINE constexpr EPackageFlags operator&(EPackageFlags A, EPackageFlags B) 
 
 class COREUOBJECT_API UPackage : public UObject
 {
-	VLMR_CLASS_BODY(UPackage, UObject, COREUOBJECT_API)
+	STANDIN_CLASS_BODY(UPackage, UObject, COREUOBJECT_API)
 
 public:
 	UPackage();

@@ -14,7 +14,7 @@ template<typename T> class TObjectPtr;
 
 struct COREUOBJECT_API FSoftObjectPath
 {
-	VLMR_STRUCT_BODY(FSoftObjectPath, COREUOBJECT_API)
+	STANDIN_STRUCT_BODY(FSoftObjectPath, COREUOBJECT_API)
 
 public:
 	FSoftObjectPath() = default;
@@ -99,7 +99,7 @@ private:
 
 struct COREUOBJECT_API FSoftClassPath : public FSoftObjectPath
 {
-	VLMR_STRUCT_BODY(FSoftClassPath, COREUOBJECT_API)
+	STANDIN_STRUCT_BODY(FSoftClassPath, COREUOBJECT_API)
 
 public:
 	FSoftClassPath() = default;

@@ -178,7 +178,7 @@ namespace UE::CoreUObject::StandIn
 		}
 	}
 
-	// The C++ signature of a function registered with VLMR_FUNCTION.
+	// The C++ signature of a function registered with STANDIN_FUNCTION.
 	template<class T> struct TFunctionSignature;
 
 	template<class R, class C, class... A>

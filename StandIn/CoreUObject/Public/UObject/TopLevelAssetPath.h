@@ -10,7 +10,7 @@ class FOutputDevice;
 
 struct COREUOBJECT_API FTopLevelAssetPath
 {
-	VLMR_STRUCT_BODY(FTopLevelAssetPath, COREUOBJECT_API)
+	STANDIN_STRUCT_BODY(FTopLevelAssetPath, COREUOBJECT_API)
 
 public:
 	FTopLevelAssetPath() = default;

@@ -8,7 +8,7 @@
 
 class ENGINE_API UDeveloperSettings : public UObject
 {
-	VLMR_CLASS_BODY(UDeveloperSettings, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(UDeveloperSettings, UObject, ENGINE_API)
 
 public:
 	UDeveloperSettings();

@@ -34,7 +34,7 @@ private:
 
 class ENGINE_API UEngine : public UObject
 {
-	VLMR_CLASS_BODY(UEngine, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(UEngine, UObject, ENGINE_API)
 
 public:
 	UEngine();

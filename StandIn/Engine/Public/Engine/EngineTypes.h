@@ -24,7 +24,7 @@ namespace EWorldType
 // A directory chosen in a details panel; exported as (Path="C:/Out").
 struct FDirectoryPath
 {
-	VLMR_STRUCT_BODY(FDirectoryPath, ENGINE_API)
+	STANDIN_STRUCT_BODY(FDirectoryPath, ENGINE_API)
 
 	FString Path;
 };
@@ -32,7 +32,7 @@ struct FDirectoryPath
 // A file chosen in a details panel; exported as (FilePath="C:/In/File.txt").
 struct FFilePath
 {
-	VLMR_STRUCT_BODY(FFilePath, ENGINE_API)
+	STANDIN_STRUCT_BODY(FFilePath, ENGINE_API)
 
 	FString FilePath;
 };

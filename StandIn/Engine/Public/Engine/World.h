@@ -11,7 +11,7 @@ class UPackage;
 
 class ENGINE_API UWorld : public UObject
 {
-	VLMR_CLASS_BODY(UWorld, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(UWorld, UObject, ENGINE_API)
 
 public:
 	UWorld();

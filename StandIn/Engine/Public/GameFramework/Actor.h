@@ -7,7 +7,7 @@
 
 class ENGINE_API AActor : public UObject
 {
-	VLMR_CLASS_BODY(AActor, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(AActor, UObject, ENGINE_API)
 
 public:
 	AActor();

@@ -6,7 +6,7 @@
 
 class ENGINE_API AGameModeBase : public AInfo
 {
-	VLMR_CLASS_BODY(AGameModeBase, AInfo, ENGINE_API)
+	STANDIN_CLASS_BODY(AGameModeBase, AInfo, ENGINE_API)
 
 public:
 	AGameModeBase();

@@ -6,7 +6,7 @@
 
 class ENGINE_API AInfo : public AActor
 {
-	VLMR_CLASS_BODY(AInfo, AActor, ENGINE_API)
+	STANDIN_CLASS_BODY(AInfo, AActor, ENGINE_API)
 
 public:
 	AInfo();

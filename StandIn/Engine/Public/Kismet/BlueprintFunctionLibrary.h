@@ -7,7 +7,7 @@
 UCLASS(Abstract, MinimalAPI)
 class ENGINE_API UBlueprintFunctionLibrary : public UObject
 {
-	VLMR_CLASS_BODY(UBlueprintFunctionLibrary, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(UBlueprintFunctionLibrary, UObject, ENGINE_API)
 
 public:
 	UBlueprintFunctionLibrary();

@@ -7,7 +7,7 @@
 
 class ENGINE_API USoundSubmixBase : public UObject
 {
-	VLMR_CLASS_BODY(USoundSubmixBase, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(USoundSubmixBase, UObject, ENGINE_API)
 
 public:
 	USoundSubmixBase();
@@ -15,7 +15,7 @@ public:
 
 class ENGINE_API USoundSubmixWithParentBase : public USoundSubmixBase
 {
-	VLMR_CLASS_BODY(USoundSubmixWithParentBase, USoundSubmixBase, ENGINE_API)
+	STANDIN_CLASS_BODY(USoundSubmixWithParentBase, USoundSubmixBase, ENGINE_API)
 
 public:
 	USoundSubmixWithParentBase();
@@ -23,7 +23,7 @@ public:
 
 class ENGINE_API USoundSubmix : public USoundSubmixWithParentBase
 {
-	VLMR_CLASS_BODY(USoundSubmix, USoundSubmixWithParentBase, ENGINE_API)
+	STANDIN_CLASS_BODY(USoundSubmix, USoundSubmixWithParentBase, ENGINE_API)
 
 public:
 	USoundSubmix();

@@ -6,7 +6,7 @@
 
 class ENGINE_API UEngineSubsystem : public UDynamicSubsystem
 {
-	VLMR_CLASS_BODY(UEngineSubsystem, UDynamicSubsystem, ENGINE_API)
+	STANDIN_CLASS_BODY(UEngineSubsystem, UDynamicSubsystem, ENGINE_API)
 
 public:
 	UEngineSubsystem();

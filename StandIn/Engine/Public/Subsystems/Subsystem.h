@@ -9,7 +9,7 @@ class FSubsystemCollectionBase;
 
 class ENGINE_API USubsystem : public UObject
 {
-	VLMR_CLASS_BODY(USubsystem, UObject, ENGINE_API)
+	STANDIN_CLASS_BODY(USubsystem, UObject, ENGINE_API)
 
 public:
 	USubsystem();
@@ -27,7 +27,7 @@ private:
 // A subsystem whose class may come from a module loaded later.
 class ENGINE_API UDynamicSubsystem : public USubsystem
 {
-	VLMR_CLASS_BODY(UDynamicSubsystem, USubsystem, ENGINE_API)
+	STANDIN_CLASS_BODY(UDynamicSubsystem, USubsystem, ENGINE_API)
 
 public:
 	UDynamicSubsystem();

@@ -4,6 +4,6 @@
 
 UMovieGraphConfig::UMovieGraphConfig() = default;
 
-VLMR_IMPLEMENT_CLASS(UMovieGraphConfig, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMovieGraphConfig, CLASS_None, "MovieRenderPipelineCore")
 {
 }

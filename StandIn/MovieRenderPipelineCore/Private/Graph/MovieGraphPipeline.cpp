@@ -14,11 +14,11 @@ void UMovieGraphPipeline::ShutdownImpl(bool bIsError)
 	PipelineState = EMovieRenderPipelineState::Finished;
 }
 
-VLMR_IMPLEMENT_CLASS(UMovieGraphPipeline, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_CLASS(UMovieGraphPipeline, CLASS_None, "MovieRenderPipelineCore")
 {
-	VLMR_PROPERTY(CurrentJobDuplicate, CPF_Transient);
-	VLMR_PROPERTY(ActiveShotList, CPF_Transient);
-	VLMR_FUNCTION(GetCurrentJob);
-	VLMR_FUNCTION(GetCurrentShotIndex);
-	VLMR_FUNCTION(GetInitializationTime);
+	STANDIN_PROPERTY(CurrentJobDuplicate, CPF_Transient);
+	STANDIN_PROPERTY(ActiveShotList, CPF_Transient);
+	STANDIN_FUNCTION(GetCurrentJob);
+	STANDIN_FUNCTION(GetCurrentShotIndex);
+	STANDIN_FUNCTION(GetInitializationTime);
 }

@@ -8,7 +8,7 @@
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMovieGraphConfig : public UObject
 {
-	VLMR_CLASS_BODY(UMovieGraphConfig, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMovieGraphConfig, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMovieGraphConfig();

@@ -13,7 +13,7 @@ class UMoviePipelineExecutorShot;
 UCLASS(MinimalAPI, BlueprintType)
 class MOVIERENDERPIPELINECORE_API UMovieGraphPipeline : public UMoviePipelineBase
 {
-	VLMR_CLASS_BODY(UMovieGraphPipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_CLASS_BODY(UMovieGraphPipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
 
 public:
 	UMovieGraphPipeline();

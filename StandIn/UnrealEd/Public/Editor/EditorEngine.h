@@ -12,7 +12,7 @@ class UWorld;
 
 class UNREALED_API UEditorEngine : public UEngine
 {
-	VLMR_CLASS_BODY(UEditorEngine, UEngine, UNREALED_API)
+	STANDIN_CLASS_BODY(UEditorEngine, UEngine, UNREALED_API)
 
 public:
 	UEditorEngine();

@@ -9,7 +9,7 @@
 // The queue holds undoable transactions, oldest first, followed by the UndoCount undone ones that Redo re-applies.
 class UNREALED_API UTransBuffer : public UTransactor
 {
-	VLMR_CLASS_BODY(UTransBuffer, UTransactor, UNREALED_API)
+	STANDIN_CLASS_BODY(UTransBuffer, UTransactor, UNREALED_API)
 
 public:
 	DECLARE_MULTICAST_DELEGATE_TwoParams(FOnTransactorUndo, const FTransactionContext& /*TransactionContext*/, bool /*Succeeded*/);

@@ -86,7 +86,7 @@ private:
 // The editor's undo system; UTransBuffer is the implementation GEditor->Trans holds.
 class UNREALED_API UTransactor : public UObject
 {
-	VLMR_CLASS_BODY(UTransactor, UObject, UNREALED_API)
+	STANDIN_CLASS_BODY(UTransactor, UObject, UNREALED_API)
 
 public:
 	UTransactor();

@@ -6,7 +6,7 @@
 
 class UNREALED_API UUnrealEdEngine : public UEditorEngine
 {
-	VLMR_CLASS_BODY(UUnrealEdEngine, UEditorEngine, UNREALED_API)
+	STANDIN_CLASS_BODY(UUnrealEdEngine, UEditorEngine, UNREALED_API)
 
 public:
 	UUnrealEdEngine();
