@@ -1,6 +1,5 @@
 // The "MovieRenderGraph" binding: the mrg_* globals and the graph-side handle methods.
 #include "VLMRBindings.h"
-#include "VLMRScriptSupport.h"
 #include "Graph/MovieGraphConfig.h"
 #include "LuaSessionData.h"
 #include "MoviePipelineQueue.h"

@@ -1,6 +1,4 @@
 // Rendering the editor queue or one of its jobs with the project's default local executor, progress and cancel.
-#include "MovieRenderQueueBinding.h"
-
 #include "Graph/MovieGraphPipeline.h"
 #include "LuaSessionData.h"
 #include "MoviePipeline.h"
@@ -11,8 +9,13 @@
 #include "MoviePipelineQueue.h"
 #include "MoviePipelineQueueSubsystem.h"
 #include "MovieRenderPipelineSettings.h"
+#include "MovieRenderQueueAccess.h"
+#include "MovieRenderQueueGlobals.h"
+#include "UObject/StrongObjectPtr.h"
 #include "UObject/UnrealType.h"
-#include "VLMRScriptSupport.h"
+#include "VLMRScriptArguments.h"
+#include "VLMRScriptResults.h"
+#include "VLMRVersionGates.h"
 
 namespace VLMR
 {
@@ -44,26 +47,32 @@ namespace VLMR
 		return Cast<UMoviePipelineBase>(Property->GetObjectPropertyValue_InContainer(LinearExecutor));
 	}
 
-	// The subsystem when it exists and nothing renders, and the queue when it has jobs; else the call's failure line.
-	static UMoviePipelineQueue* GetQueueToRender(FLuaSessionData& Session, const TCHAR* Label, UMoviePipelineQueueSubsystem*& OutSubsystem)
+	// What a render needs: an idle subsystem and a queue with jobs, each held for the call; else the call's failure line.
+	struct FRenderTarget
 	{
-		OutSubsystem = GetIdleSubsystem(Session, Label);
-		if (!OutSubsystem)
+		TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem;
+		TStrongObjectPtr<UMoviePipelineQueue> Queue;
+	};
+
+	static bool GetQueueToRender(FLuaSessionData& Session, const TCHAR* Label, FRenderTarget& OutTarget)
+	{
+		OutTarget.Subsystem = GetIdleSubsystem(Session, Label);
+		if (!OutTarget.Subsystem)
 		{
-			return nullptr;
+			return false;
 		}
-		UMoviePipelineQueue* Queue = OutSubsystem->GetQueue();
-		if (!Queue || Queue->GetJobs().Num() == 0)
+		OutTarget.Queue.Reset(OutTarget.Subsystem->GetQueue());
+		if (!OutTarget.Queue || OutTarget.Queue->GetJobs().Num() == 0)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("queue is empty, nothing to render"));
-			return nullptr;
+			return false;
 		}
-		return Queue;
+		return true;
 	}
 
-	static UClass* ResolveExecutorClassOrReport(FLuaSessionData& Session, const TCHAR* Label)
+	static TStrongObjectPtr<UClass> ResolveExecutorClassOrReport(FLuaSessionData& Session, const TCHAR* Label)
 	{
-		UClass* ExecutorClass = ResolveDefaultLocalExecutorClass();
+		TStrongObjectPtr<UClass> ExecutorClass(ResolveDefaultLocalExecutorClass());
 		if (!ExecutorClass)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Render Pipeline default local executor is not configured"));
@@ -74,49 +83,53 @@ namespace VLMR
 	sol::object RenderQueue(sol::state_view Lua, FLuaSessionData& Session)
 	{
 		const TCHAR* Label = TEXT("mrq_render_queue");
-		UMoviePipelineQueueSubsystem* Subsystem = nullptr;
-		UMoviePipelineQueue* Queue = GetQueueToRender(Session, Label, Subsystem);
-		UClass* ExecutorClass = Queue ? ResolveExecutorClassOrReport(Session, Label) : nullptr;
+		FRenderTarget Target;
+		if (!GetQueueToRender(Session, Label, Target))
+		{
+			return Nil(Lua);
+		}
+		const TStrongObjectPtr<UClass> ExecutorClass = ResolveExecutorClassOrReport(Session, Label);
 		if (!ExecutorClass)
 		{
 			return Nil(Lua);
 		}
-		Subsystem->RenderQueueWithExecutor(ExecutorClass);
-		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("started with %s (%d jobs)"), *ExecutorClass->GetName(), Queue->GetJobs().Num()));
+		Target.Subsystem->RenderQueueWithExecutor(ExecutorClass.Get());
+		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("started with %s (%d jobs)"), *ExecutorClass->GetName(), Target.Queue->GetJobs().Num()));
 		return sol::make_object(Lua, true);
 	}
 
 	sol::object RenderJob(sol::state_view Lua, FLuaSessionData& Session, const sol::object& JobHandle)
 	{
 		const TCHAR* Label = TEXT("mrq_render_job");
-		UMoviePipelineQueueSubsystem* Subsystem = nullptr;
-		UMoviePipelineQueue* Queue = GetQueueToRender(Session, Label, Subsystem);
-		if (!Queue)
+		// Read before any check: reading a userdata's field may run script code.
+		const TOptional<FString> Identity = ReadJobIdentity(JobHandle);
+		FRenderTarget Target;
+		if (!GetQueueToRender(Session, Label, Target))
 		{
 			return Nil(Lua);
 		}
-		UMoviePipelineExecutorJob* Job = FindJobByIdentity(Queue, JobHandle);
+		const TStrongObjectPtr<UMoviePipelineExecutorJob> Job(Identity.IsSet() ? FindJobByIdentity(*Target.Queue, Identity.GetValue()) : nullptr);
 		if (!Job)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("supplied job handle is not in the current editor queue"));
 			return Nil(Lua);
 		}
-		UClass* ExecutorClass = ResolveExecutorClassOrReport(Session, Label);
+		const TStrongObjectPtr<UClass> ExecutorClass = ResolveExecutorClassOrReport(Session, Label);
 		if (!ExecutorClass)
 		{
 			return Nil(Lua);
 		}
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 6)
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 		// The copy renders alone, and what the executor marks lands on the copy, not on the editor queue's job.
-		UMoviePipelineQueue* TransientQueue = NewObject<UMoviePipelineQueue>(Subsystem);
+		const TStrongObjectPtr<UMoviePipelineQueue> TransientQueue(NewObject<UMoviePipelineQueue>(Target.Subsystem.Get()));
 		TransientQueue->SetFlags(RF_Transient);
-		UMoviePipelineExecutorJob* Copy = TransientQueue->DuplicateJob(Job);
+		UMoviePipelineExecutorJob* Copy = TransientQueue->DuplicateJob(Job.Get());
 		if (!Copy || TransientQueue->GetJobs().Num() != 1)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("failed to duplicate supplied job into a transient queue"));
 			return Nil(Lua);
 		}
-		if (!Subsystem->RenderQueueInstanceWithExecutor(TransientQueue, ExecutorClass))
+		if (!Target.Subsystem->RenderQueueInstanceWithExecutor(TransientQueue.Get(), ExecutorClass.Get()))
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("failed to start render executor"));
 			return Nil(Lua);
@@ -133,79 +146,138 @@ namespace VLMR
 		return IsRenderInProgress(GetQueueSubsystem());
 	}
 
-	static FString ShotDisplayName(const UMoviePipelineExecutorShot* Shot)
+	// The progress of one shot, one job and the executor, read before any Lua value is made.
+	struct FShotProgress
 	{
-		return Shot->OuterName.IsEmpty() ? Shot->InnerName : Shot->OuterName + TEXT(".") + Shot->InnerName;
+		int32 Position = 0;
+		FString Name;
+		float Progress = 0.f;
+		FString StatusMessage;
+		bool bIsCurrent = false;
+	};
+
+	enum class EPipelineKind : uint8
+	{
+		None,
+		Legacy,
+		Graph,
+	};
+
+	struct FJobProgress
+	{
+		int32 Index = 0;
+		float Progress = 0.f;
+		FString StatusMessage;
+		FString Sequence;
+		EPipelineKind PipelineKind = EPipelineKind::None;
+		int32 CurrentShotIndex = 0;
+		int32 TotalShots = 0;
+		float PipelineProgress = 0.f;
+		TArray<FShotProgress> Shots;
+	};
+
+	static FString ShotDisplayName(const UMoviePipelineExecutorShot& Shot)
+	{
+		return Shot.OuterName.IsEmpty() ? Shot.InnerName : Shot.OuterName + TEXT(".") + Shot.InnerName;
 	}
 
-	static sol::table MakeShotTables(sol::state_view Lua, const UMoviePipeline* Pipeline)
+	static TArray<FShotProgress> ReadShotProgress(const UMoviePipeline& Pipeline)
 	{
-		sol::table Shots = Lua.create_table();
-		const auto& ActiveShots = Pipeline->GetActiveShotList();
+		TArray<FShotProgress> Shots;
+		const auto& ActiveShots = Pipeline.GetActiveShotList();
 		for (int32 Position = 0; Position < ActiveShots.Num(); ++Position)
 		{
-			const UMoviePipelineExecutorShot* Shot = ActiveShots[Position];
-			if (!Shot)
+			if (const UMoviePipelineExecutorShot* Shot = ActiveShots[Position])
 			{
-				continue;
+				Shots.Add({ Position, ShotDisplayName(*Shot), Shot->GetStatusProgress(), Shot->GetStatusMessage(), Position == Pipeline.GetCurrentShotIndex() });
 			}
-			sol::table Row = Lua.create_table();
-			Row["name"] = ToUtf8(ShotDisplayName(Shot));
-			Row["progress"] = Shot->GetStatusProgress();
-			Row["status_message"] = ToUtf8(Shot->GetStatusMessage());
-			Row["is_current"] = Position == Pipeline->GetCurrentShotIndex();
-			Shots[Position + 1] = Row;
 		}
 		return Shots;
 	}
 
 	// Pipeline details of one job: a legacy pipeline only for the very job object it renders, a graph pipeline for every job.
-	static void AddPipelineDetails(sol::state_view Lua, sol::table& Row, const UMoviePipelineExecutorJob* Job, UMoviePipelineBase* Pipeline)
+	static void ReadPipelineDetails(FJobProgress& Row, const UMoviePipelineExecutorJob& Job, const UMoviePipelineBase* Pipeline)
 	{
 		if (const UMoviePipeline* Legacy = Cast<UMoviePipeline>(Pipeline))
 		{
-			if (Legacy->GetCurrentJob() == Job)
+			if (Legacy->GetCurrentJob() == &Job)
 			{
-				Row["pipeline_type"] = "legacy";
-				Row["current_shot_index"] = Legacy->GetCurrentShotIndex() + 1;
-				Row["total_shots"] = Legacy->GetActiveShotList().Num();
-				Row["pipeline_progress"] = UMoviePipelineBlueprintLibrary::GetCompletionPercentage(Legacy);
-				Row["shots"] = MakeShotTables(Lua, Legacy);
+				Row.PipelineKind = EPipelineKind::Legacy;
+				Row.CurrentShotIndex = Legacy->GetCurrentShotIndex() + 1;
+				Row.TotalShots = Legacy->GetActiveShotList().Num();
+				Row.PipelineProgress = UMoviePipelineBlueprintLibrary::GetCompletionPercentage(Legacy);
+				Row.Shots = ReadShotProgress(*Legacy);
 			}
 		}
 		else if (Pipeline)
 		{
-			Row["pipeline_type"] = "graph";
+			Row.PipelineKind = EPipelineKind::Graph;
 		}
 	}
 
-	static sol::table MakeJobProgress(sol::state_view Lua, const UMoviePipelineExecutorJob* Job, int32 Index, UMoviePipelineBase* Pipeline)
+	static FJobProgress ReadJobProgress(const UMoviePipelineExecutorJob& Job, int32 Index, const UMoviePipelineBase* Pipeline)
+	{
+		FJobProgress Row;
+		Row.Index = Index;
+		Row.Progress = Job.GetStatusProgress();
+		Row.StatusMessage = Job.GetStatusMessage();
+		Row.Sequence = ToAssetPathString(Job.Sequence);
+		ReadPipelineDetails(Row, Job, Pipeline);
+		return Row;
+	}
+
+	static sol::table MakeShotTables(sol::state_view Lua, const TArray<FShotProgress>& Shots)
+	{
+		sol::table Table = Lua.create_table();
+		for (const FShotProgress& Shot : Shots)
+		{
+			sol::table Row = Lua.create_table();
+			Row["name"] = ToUtf8(Shot.Name);
+			Row["progress"] = Shot.Progress;
+			Row["status_message"] = ToUtf8(Shot.StatusMessage);
+			Row["is_current"] = Shot.bIsCurrent;
+			Table[Shot.Position + 1] = Row;
+		}
+		return Table;
+	}
+
+	static sol::table MakeJobProgressTable(sol::state_view Lua, const FJobProgress& Job)
 	{
 		sol::table Row = Lua.create_table();
-		Row["index"] = Index;
-		Row["progress"] = Job->GetStatusProgress();
-		Row["status_message"] = ToUtf8(Job->GetStatusMessage());
-		Row["sequence"] = ToUtf8(ToAssetPathString(Job->Sequence));
-		Row["shots"] = Lua.create_table();
-		AddPipelineDetails(Lua, Row, Job, Pipeline);
+		Row["index"] = Job.Index;
+		Row["progress"] = Job.Progress;
+		Row["status_message"] = ToUtf8(Job.StatusMessage);
+		Row["sequence"] = ToUtf8(Job.Sequence);
+		Row["shots"] = MakeShotTables(Lua, Job.Shots);
+		if (Job.PipelineKind == EPipelineKind::Legacy)
+		{
+			Row["pipeline_type"] = "legacy";
+			Row["current_shot_index"] = Job.CurrentShotIndex;
+			Row["total_shots"] = Job.TotalShots;
+			Row["pipeline_progress"] = Job.PipelineProgress;
+		}
+		else if (Job.PipelineKind == EPipelineKind::Graph)
+		{
+			Row["pipeline_type"] = "graph";
+		}
 		return Row;
 	}
 
 	sol::object RenderProgress(sol::state_view Lua, FLuaSessionData& Session)
 	{
 		const TCHAR* Label = TEXT("mrq_render_progress");
-		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+		const TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem = GetSubsystemOrReport(Session, Label, EQueueWording::Reading);
 		if (!Subsystem)
 		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Pipeline subsystem not available"));
 			return Nil(Lua);
 		}
-		UMoviePipelineExecutorBase* Executor = Subsystem->GetActiveExecutor();
-		UMoviePipelineBase* Pipeline = FindActivePipeline(Executor);
-		const bool bRendering = IsRenderInProgress(Subsystem);
+		const TStrongObjectPtr<UMoviePipelineExecutorBase> Executor(Subsystem->GetActiveExecutor());
+		const TStrongObjectPtr<UMoviePipelineBase> Pipeline(FindActivePipeline(Executor.Get()));
+		const bool bRendering = IsRenderInProgress(Subsystem.Get());
 		const float Progress = Executor ? Executor->GetStatusProgress() : 0.f;
+		const FString StatusMessage = Executor ? Executor->GetStatusMessage() : FString();
 
-		sol::table Jobs = Lua.create_table();
+		TArray<FJobProgress> Jobs;
 		if (const UMoviePipelineQueue* Queue = Subsystem->GetQueue())
 		{
 			const TArray<UMoviePipelineExecutorJob*> QueueJobs = Queue->GetJobs();
@@ -213,35 +285,39 @@ namespace VLMR
 			{
 				if (QueueJobs[Position])
 				{
-					Jobs[Position + 1] = MakeJobProgress(Lua, QueueJobs[Position], Position + 1, Pipeline);
+					Jobs.Add(ReadJobProgress(*QueueJobs[Position], Position + 1, Pipeline.Get()));
 				}
 			}
 		}
 
+		sol::table JobTables = Lua.create_table();
+		for (const FJobProgress& Job : Jobs)
+		{
+			JobTables[Job.Index] = MakeJobProgressTable(Lua, Job);
+		}
 		sol::table Result = Lua.create_table();
 		Result["is_rendering"] = bRendering;
 		Result["progress"] = Progress;
-		Result["status_message"] = ToUtf8(Executor ? Executor->GetStatusMessage() : FString());
-		Result["jobs"] = Jobs;
-		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("is_rendering=%s progress=%.1f%%"), bRendering ? TEXT("true") : TEXT("false"), Progress * 100.0));
+		Result["status_message"] = ToUtf8(StatusMessage);
+		Result["jobs"] = JobTables;
+		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("is_rendering=%s progress=%.1f%%"), BoolText(bRendering), Progress * 100.0));
 		return Result;
 	}
 
 	sol::object CancelRender(sol::state_view Lua, FLuaSessionData& Session, bool bCancelAll)
 	{
 		const TCHAR* Label = TEXT("mrq_cancel_render");
-		UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+		const TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem = GetSubsystemOrReport(Session, Label, EQueueWording::Reading);
 		if (!Subsystem)
 		{
-			LogLine(Session, ELineKind::Fail, Label, TEXT("Movie Pipeline subsystem not available"));
 			return Nil(Lua);
 		}
-		if (!IsRenderInProgress(Subsystem))
+		if (!IsRenderInProgress(Subsystem.Get()))
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("no render is in progress"));
 			return Nil(Lua);
 		}
-		UMoviePipelineExecutorBase* Executor = Subsystem->GetActiveExecutor();
+		const TStrongObjectPtr<UMoviePipelineExecutorBase> Executor(Subsystem->GetActiveExecutor());
 		if (!Executor)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("no active executor"));

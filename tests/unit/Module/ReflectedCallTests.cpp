@@ -4,7 +4,7 @@
 #include "CoreMinimal.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
-#include "VLMRScriptSupport.h"
+#include "VLMRReflectedCall.h"
 
 // Lacks every function the module calls by reflection.
 class UVLMRContractEmpty : public UObject

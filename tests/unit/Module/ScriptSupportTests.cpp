@@ -8,7 +8,10 @@
 #include "Misc/Paths.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
-#include "VLMRScriptSupport.h"
+#include "VLMRAssetRoutines.h"
+#include "VLMRScriptArguments.h"
+#include "VLMRScriptResults.h"
+#include "VLMRVersionGates.h"
 
 class UVLMRSupportTestAsset : public UObject
 {
@@ -169,7 +172,7 @@ TEST(VersionGateTest, EachGateIsOpenExactlyFromItsMinimumVersion)
 	const VLMR::FVersionGate& InsertAfter = VLMR::GetVersionGate(VLMR::EGatedFeature::InsertAfter);
 	EXPECT_STREQ(InsertAfter.FeatureName, TEXT("UMovieGraphConfig::InsertAfter"));
 	EXPECT_STREQ(InsertAfter.MinVersion, TEXT("5.8"));
-#if ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION == 7
+#if !UE_VERSION_OLDER_THAN(5, 7, 0) && UE_VERSION_OLDER_THAN(5, 8, 0)
 	EXPECT_FALSE(InsertAfter.bAvailable);
 	EXPECT_TRUE(VLMR::GetVersionGate(VLMR::EGatedFeature::ResolutionQueries).bAvailable);
 	EXPECT_STREQ(*VLMR::GetEngineVersionString(), TEXT("5.7.4"));

@@ -1,0 +1,39 @@
+#include "VLMRVersionGates.h"
+
+#include "Runtime/Launch/Resources/Version.h"
+#include "VLMRScriptResults.h"
+
+namespace VLMR
+{
+	// Listed in the enum's order; each availability comes from the same comparison the gated code is compiled with.
+	static const FVersionGate VersionGates[] = {
+		{ EGatedFeature::ResolutionQueries, TEXT("resolution queries"), TEXT("5.6"), !UE_VERSION_OLDER_THAN(5, 6, 0) },
+		{ EGatedFeature::NodesForBranch, TEXT("UMovieGraphConfig::GetNodesForBranch"), TEXT("5.6"), !UE_VERSION_OLDER_THAN(5, 6, 0) },
+		{ EGatedFeature::NodesForTag, TEXT("UMovieGraphConfig::GetNodesForTag"), TEXT("5.6"), !UE_VERSION_OLDER_THAN(5, 6, 0) },
+		{ EGatedFeature::RenderQueueInstance, TEXT("UMoviePipelineQueueSubsystem::RenderQueueInstanceWithExecutor"), TEXT("5.6"), !UE_VERSION_OLDER_THAN(5, 6, 0) },
+		{ EGatedFeature::InsertBefore, TEXT("UMovieGraphConfig::InsertBefore"), TEXT("5.8"), !UE_VERSION_OLDER_THAN(5, 8, 0) },
+		{ EGatedFeature::InsertAfter, TEXT("UMovieGraphConfig::InsertAfter"), TEXT("5.8"), !UE_VERSION_OLDER_THAN(5, 8, 0) },
+		{ EGatedFeature::OutputDirectoryReason, TEXT("UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob"), TEXT("5.8"), !UE_VERSION_OLDER_THAN(5, 8, 0) },
+	};
+
+	TConstArrayView<FVersionGate> GetVersionGates()
+	{
+		return TConstArrayView<FVersionGate>(VersionGates, UE_ARRAY_COUNT(VersionGates));
+	}
+
+	const FVersionGate& GetVersionGate(EGatedFeature Feature)
+	{
+		return VersionGates[static_cast<int32>(Feature)];
+	}
+
+	sol::table RefuseGatedFeature(sol::state_view Lua, FLuaSessionData& Session, const FString& Label, EGatedFeature Feature)
+	{
+		const FVersionGate& Gate = GetVersionGate(Feature);
+		return Unsupported(Lua, Session, Label, Gate.FeatureName, Gate.MinVersion);
+	}
+
+	FString GetEngineVersionString()
+	{
+		return FString::Printf(TEXT("%d.%d.%d"), ENGINE_MAJOR_VERSION, ENGINE_MINOR_VERSION, ENGINE_PATCH_VERSION);
+	}
+}
