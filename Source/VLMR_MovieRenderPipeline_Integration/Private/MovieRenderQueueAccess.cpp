@@ -103,6 +103,11 @@ namespace VLMR
 		return bInRange;
 	}
 
+	FString LabelWithIndex(const TCHAR* Label, int64 Index)
+	{
+		return FString::Printf(TEXT("%s(%lld)"), Label, static_cast<long long>(Index));
+	}
+
 	UWorld* FindCurrentEditorWorld()
 	{
 		if (GEditor)

@@ -6,6 +6,8 @@
 #include "Misc/Optional.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VelmireLuaIncludes.h"
+#include "VLMRAssetRoutines.h"
+#include "VLMRScriptResults.h"
 
 class FLuaSessionData;
 class UMoviePipelineBase;
@@ -54,6 +56,56 @@ namespace VLMR
 
 	// Logs "[FAIL] <label> -> <what>index <n> out of range (1-<count>)" with the index as the script passed it.
 	void ReportJobIndexOutOfRange(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, int64 Index, int32 Count);
+
+	// One row per non-null job of the queue, made by the reader from the job and its 1-based position while every job
+	// is held, so that a reader may load (and a load collect) safely.
+	template<class TReader>
+	auto ReadJobRows(const UMoviePipelineQueue& Queue, TReader&& Reader)
+	{
+		const TArray<TStrongObjectPtr<UMoviePipelineExecutorJob>> Jobs = GetHeldJobs(Queue);
+		TArray<decltype(Reader(*Jobs[0], 0))> Rows;
+		for (int32 Position = 0; Position < Jobs.Num(); ++Position)
+		{
+			if (Jobs[Position])
+			{
+				Rows.Add(Reader(*Jobs[Position], Position + 1));
+			}
+		}
+		return Rows;
+	}
+
+	// A Lua array of the rows at their own indexes (a null job leaves its index empty).
+	template<class TRow, class TMaker>
+	sol::table MakeIndexedTable(sol::state_view Lua, const TArray<TRow>& Rows, TMaker&& Maker)
+	{
+		sol::table Table = Lua.create_table(Rows.Num(), 0);
+		for (const TRow& Row : Rows)
+		{
+			Table[Row.Index] = Maker(Lua, Row);
+		}
+		return Table;
+	}
+
+	// The first checks of a call that changes the queue from a script-named asset: the path as an engine name, an idle
+	// subsystem, then the asset itself; false after the call's failure line.
+	template<class TAsset>
+	bool ResolveQueueEditAsset(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, const FString& Path,
+		TStrongObjectPtr<UMoviePipelineQueueSubsystem>& OutSubsystem, TStrongObjectPtr<TAsset>& OutAsset)
+	{
+		if (!CheckEngineNameLength(Session, Label, Path))
+		{
+			return false;
+		}
+		OutSubsystem = GetIdleSubsystem(Session, Label);
+		if (OutSubsystem)
+		{
+			OutAsset.Reset(LoadTypedAssetOrReport<TAsset>(Session, Label, What, Path));
+		}
+		return OutAsset.IsValid();
+	}
+
+	// "<label>(<index>)": the label of a success line that names the index the script passed.
+	FString LabelWithIndex(const TCHAR* Label, int64 Index);
 
 	// True when the 1-based index lies in 1..Count; else the out-of-range line.
 	bool CheckJobIndex(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, int64 Index, int32 Count);

@@ -23,17 +23,9 @@ namespace VLMR
 	static sol::object AddJobForSequence(sol::state_view Lua, FLuaSessionData& Session, const TCHAR* Label, const FString& SequencePath, bool bClearQueue)
 	{
 		const FString Path = PrefixGameRoot(SequencePath);
-		if (!CheckEngineNameLength(Session, Label, Path))
-		{
-			return Nil(Lua);
-		}
-		const TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem = GetIdleSubsystem(Session, Label);
-		if (!Subsystem)
-		{
-			return Nil(Lua);
-		}
-		const TStrongObjectPtr<ULevelSequence> Sequence(LoadTypedAssetOrReport<ULevelSequence>(Session, Label, TEXT("sequence"), Path));
-		if (!Sequence)
+		TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem;
+		TStrongObjectPtr<ULevelSequence> Sequence;
+		if (!ResolveQueueEditAsset(Session, Label, TEXT("sequence"), Path, Subsystem, Sequence))
 		{
 			return Nil(Lua);
 		}
@@ -81,6 +73,13 @@ namespace VLMR
 		return AddJobForSequence(Lua, Session, TEXT("mrq_allocate_job"), SequencePath, true);
 	}
 
+	// The editor queue and the job at a 1-based index, both held for the call.
+	struct FIndexedJob
+	{
+		TStrongObjectPtr<UMoviePipelineQueue> Queue;
+		FHeldJob Job;
+	};
+
 	// The editor queue with its jobs held, for a call that addresses jobs by index; null after the call's failure line.
 	static TStrongObjectPtr<UMoviePipelineQueue> GetQueueWithJobs(FLuaSessionData& Session, const TCHAR* Label, EQueueWording Wording, TArray<FHeldJob>& OutJobs)
 	{
@@ -92,24 +91,40 @@ namespace VLMR
 		return Queue;
 	}
 
+	// The queue and the job at the index; false after the call's failure line (a null entry counts as out of range).
+	static bool FindJobAtIndex(FLuaSessionData& Session, const TCHAR* Label, EQueueWording Wording, int64 Index, FIndexedJob& OutJob)
+	{
+		TArray<FHeldJob> Jobs;
+		OutJob.Queue = GetQueueWithJobs(Session, Label, Wording, Jobs);
+		if (!OutJob.Queue || !CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		{
+			return false;
+		}
+		OutJob.Job = Jobs[Index - 1];
+		if (!OutJob.Job)
+		{
+			ReportJobIndexOutOfRange(Session, Label, TEXT(""), Index, Jobs.Num());
+		}
+		return OutJob.Job.IsValid();
+	}
+
 	sol::object DuplicateJob(sol::state_view Lua, FLuaSessionData& Session, int64 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_duplicate_job");
-		TArray<FHeldJob> Jobs;
-		const TStrongObjectPtr<UMoviePipelineQueue> Queue = GetQueueWithJobs(Session, Label, EQueueWording::Editing, Jobs);
-		if (!Queue || !CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		FIndexedJob Target;
+		if (!FindJobAtIndex(Session, Label, EQueueWording::Editing, Index, Target))
 		{
 			return Nil(Lua);
 		}
-		const FHeldJob Copy(Queue->DuplicateJob(Jobs[Index - 1].Get()));
+		const FHeldJob Copy(Target.Queue->DuplicateJob(Target.Job.Get()));
 		if (!Copy)
 		{
 			LogLine(Session, ELineKind::Fail, Label, TEXT("duplication failed"));
 			return Nil(Lua);
 		}
-		const FString Text = FString::Printf(TEXT("duplicated, queue now has %d jobs"), Queue->GetJobs().Num());
+		const FString Text = FString::Printf(TEXT("duplicated, queue now has %d jobs"), Target.Queue->GetJobs().Num());
 		sol::table Handle = BuildJobHandle(Lua, Copy.Get(), Session);
-		LogLine(Session, ELineKind::Ok, FString::Printf(TEXT("mrq_duplicate_job(%lld)"), static_cast<long long>(Index)), Text);
+		LogLine(Session, ELineKind::Ok, LabelWithIndex(Label, Index), Text);
 		return Handle;
 	}
 
@@ -130,14 +145,13 @@ namespace VLMR
 	sol::object DeleteJob(sol::state_view Lua, FLuaSessionData& Session, int64 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_delete_job");
-		TArray<FHeldJob> Jobs;
-		const TStrongObjectPtr<UMoviePipelineQueue> Queue = GetQueueWithJobs(Session, Label, EQueueWording::Editing, Jobs);
-		if (!Queue || !CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		FIndexedJob Target;
+		if (!FindJobAtIndex(Session, Label, EQueueWording::Editing, Index, Target))
 		{
 			return Nil(Lua);
 		}
-		Queue->DeleteJob(Jobs[Index - 1].Get());
-		LogLine(Session, ELineKind::Ok, FString::Printf(TEXT("mrq_delete_job(%lld)"), static_cast<long long>(Index)));
+		Target.Queue->DeleteJob(Target.Job.Get());
+		LogLine(Session, ELineKind::Ok, LabelWithIndex(Label, Index));
 		return sol::make_object(Lua, true);
 	}
 
@@ -197,48 +211,28 @@ namespace VLMR
 		{
 			return Nil(Lua);
 		}
-		// Reading a job may load its graph preset, and a load may collect: every job is held while the rows are read.
-		const TArray<FHeldJob> Jobs = GetHeldJobs(*Queue);
-		TArray<FQueueJobRow> Rows;
-		for (int32 Position = 0; Position < Jobs.Num(); ++Position)
-		{
-			if (Jobs[Position])
-			{
-				Rows.Add(ReadQueueJobRow(*Jobs[Position], Position + 1));
-			}
-		}
+		const TArray<FQueueJobRow> Rows = ReadJobRows(*Queue, &ReadQueueJobRow);
+		const int32 Count = Queue->GetJobs().Num();
 		const bool bRendering = IsRenderInProgress(GetQueueSubsystem());
 
-		sol::table JobTables = Lua.create_table(Jobs.Num(), 0);
-		for (const FQueueJobRow& Row : Rows)
-		{
-			JobTables[Row.Index] = MakeQueueJobTable(Lua, Row);
-		}
 		sol::table Result = Lua.create_table();
-		Result["jobs"] = JobTables;
-		Result["count"] = Jobs.Num();
+		Result["jobs"] = MakeIndexedTable(Lua, Rows, &MakeQueueJobTable);
+		Result["count"] = Count;
 		Result["is_rendering"] = bRendering;
-		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("%d jobs"), Jobs.Num()));
+		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("%d jobs"), Count));
 		return Result;
 	}
 
 	sol::object GetJob(sol::state_view Lua, FLuaSessionData& Session, int64 Index)
 	{
 		const TCHAR* Label = TEXT("mrq_get_job");
-		TArray<FHeldJob> Jobs;
-		const TStrongObjectPtr<UMoviePipelineQueue> Queue = GetQueueWithJobs(Session, Label, EQueueWording::Reading, Jobs);
-		if (!Queue || !CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		FIndexedJob Target;
+		if (!FindJobAtIndex(Session, Label, EQueueWording::Reading, Index, Target))
 		{
 			return Nil(Lua);
 		}
-		// A null entry is reported as out of range, like an index past the end.
-		if (!Jobs[Index - 1])
-		{
-			ReportJobIndexOutOfRange(Session, Label, TEXT(""), Index, Jobs.Num());
-			return Nil(Lua);
-		}
-		sol::table Handle = BuildJobHandle(Lua, Jobs[Index - 1].Get(), Session);
-		LogLine(Session, ELineKind::Ok, FString::Printf(TEXT("mrq_get_job(%lld)"), static_cast<long long>(Index)));
+		sol::table Handle = BuildJobHandle(Lua, Target.Job.Get(), Session);
+		LogLine(Session, ELineKind::Ok, LabelWithIndex(Label, Index));
 		return Handle;
 	}
 }

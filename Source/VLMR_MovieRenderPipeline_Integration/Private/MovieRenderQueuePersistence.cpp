@@ -90,17 +90,9 @@ namespace VLMR
 	{
 		const TCHAR* Label = TEXT("mrq_load_queue");
 		const FString Path = PrefixGameRoot(AssetPath);
-		if (!CheckEngineNameLength(Session, Label, Path))
-		{
-			return Nil(Lua);
-		}
-		const TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem = GetIdleSubsystem(Session, Label);
-		if (!Subsystem)
-		{
-			return Nil(Lua);
-		}
-		const TStrongObjectPtr<UMoviePipelineQueue> Asset(LoadTypedAssetOrReport<UMoviePipelineQueue>(Session, Label, TEXT("queue asset"), Path));
-		if (!Asset)
+		TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem;
+		TStrongObjectPtr<UMoviePipelineQueue> Asset;
+		if (!ResolveQueueEditAsset(Session, Label, TEXT("queue asset"), Path, Subsystem, Asset))
 		{
 			return Nil(Lua);
 		}

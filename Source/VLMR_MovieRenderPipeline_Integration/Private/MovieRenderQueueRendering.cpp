@@ -280,26 +280,14 @@ namespace VLMR
 		TArray<FJobProgress> Jobs;
 		if (const UMoviePipelineQueue* Queue = Subsystem->GetQueue())
 		{
-			const TArray<UMoviePipelineExecutorJob*> QueueJobs = Queue->GetJobs();
-			for (int32 Position = 0; Position < QueueJobs.Num(); ++Position)
-			{
-				if (QueueJobs[Position])
-				{
-					Jobs.Add(ReadJobProgress(*QueueJobs[Position], Position + 1, Pipeline.Get()));
-				}
-			}
+			Jobs = ReadJobRows(*Queue, [&Pipeline](const UMoviePipelineExecutorJob& Job, int32 Index) { return ReadJobProgress(Job, Index, Pipeline.Get()); });
 		}
 
-		sol::table JobTables = Lua.create_table();
-		for (const FJobProgress& Job : Jobs)
-		{
-			JobTables[Job.Index] = MakeJobProgressTable(Lua, Job);
-		}
 		sol::table Result = Lua.create_table();
 		Result["is_rendering"] = bRendering;
 		Result["progress"] = Progress;
 		Result["status_message"] = ToUtf8(StatusMessage);
-		Result["jobs"] = JobTables;
+		Result["jobs"] = MakeIndexedTable(Lua, Jobs, &MakeJobProgressTable);
 		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("is_rendering=%s progress=%.1f%%"), BoolText(bRendering), Progress * 100.0));
 		return Result;
 	}
