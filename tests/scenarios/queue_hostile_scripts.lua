@@ -122,6 +122,16 @@ check.lines({
 	"[FAIL] mrq_open_config -> " .. too_long,
 	"[FAIL] set -> text too long for an engine name (1024 characters, at most 1023)",
 }, "long names")
+local game_override = long_job:find_or_add_setting("GameOverride")
+editor.clear_log()
+game_override:set("GameModeOverride", long_path)
+game_override:set("GameModeOverride", "/Game/" .. string.rep("z", 1017))
+setting:set("FileNameFormat", long_tail)
+local set_lines = editor.log()
+check.eq(#set_lines, 3, "one line each")
+check.eq(set_lines[1], "[FAIL] set -> text too long for an engine name (2006 characters, at most 1023)", "an object path too long for a name")
+check.matches(set_lines[2], "^%[FAIL%] set %-> failed to set 'GameModeOverride' = '/Game/z+' %(", "1023 characters reach the import")
+check.eq(set_lines[3], "[OK] set FileNameFormat = " .. long_tail, "a long plain text is no name")
 check.eq(mrq_get_job(1):info().sequence, "/Game/Cinematics/Intro.Intro", "the sequence is unchanged")
 local longest = "/Game/" .. string.rep("y", 1017)
 long_job:set_sequence(longest)

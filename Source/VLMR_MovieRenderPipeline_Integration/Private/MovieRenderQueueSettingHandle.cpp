@@ -74,6 +74,12 @@ namespace VLMR
 		return Property ? sol::make_object(Lua, ToUtf8(ExportSettingValue(Property, Setting.Get()))) : Nil(Lua);
 	}
 
+	// Properties whose export text becomes an engine name when imported: names, and object references by path.
+	static bool HoldsEngineName(const FProperty* Property)
+	{
+		return CastField<FNameProperty>(Property) || CastField<FObjectPropertyBase>(Property);
+	}
+
 	static void SettingSet(const FWeakSetting& WeakSetting, FLuaSessionData& Session, const FString& Name, const FString& Value)
 	{
 		const TCHAR* Label = TEXT("set");
@@ -91,6 +97,10 @@ namespace VLMR
 		if (!Property)
 		{
 			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("property '%s' not found"), *Name));
+			return;
+		}
+		if (HoldsEngineName(Property) && !CheckEngineNameLength(Session, Label, Value))
+		{
 			return;
 		}
 
