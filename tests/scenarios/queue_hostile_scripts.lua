@@ -137,6 +137,15 @@ local longest = "/Game/" .. string.rep("y", 1017)
 long_job:set_sequence(longest)
 check.eq(mrq_get_job(1):info().sequence, longest, "1023 characters still fit")
 
+-- A map path must start at a mount point: the engine would refuse a short package name with an ensure.
+editor.clear_log()
+check.eq(long_job:set_map("?"), nil, "a short package name")
+check.eq(select("#", long_job:set_map("Maps/Main")), 0, "a relative path with a folder is stored as given")
+check.lines({
+	"[FAIL] set_map -> '?' is a short package name; a path starts at a mount point such as /Game/",
+	"[OK] set_map -> Maps/Main",
+}, "map paths")
+
 -- A save path that is no package name cannot reach a file outside the project's content.
 fresh_queue("Cinematics/Intro")
 check.eq(mrq_save_queue("Fz/../../../Outside"), nil, "a path that climbs out")

@@ -1,6 +1,7 @@
 // The job handle: edits one job of the editor queue, its legacy configuration's settings and its presets.
 #include "Graph/MovieGraphConfig.h"
 #include "LuaSessionData.h"
+#include "Misc/PackageName.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
 #include "MovieRenderQueueAccess.h"
@@ -102,11 +103,22 @@ namespace VLMR
 		return NoValue();
 	}
 
-	// A setter whose text becomes an engine path: refused when it cannot be an engine name.
+	// The engine refuses a soft path to a short package name (one without a mount point) with an ensure.
+	static bool CheckLongPackagePath(FLuaSessionData& Session, const TCHAR* Label, const FString& Path)
+	{
+		const bool bStorable = Path.IsEmpty() || Path == TEXT("None") || !FPackageName::IsShortPackageName(FPackageName::ExportTextPathToObjectPath(Path));
+		if (!bStorable)
+		{
+			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("'%s' is a short package name; a path starts at a mount point such as /Game/"), *Path));
+		}
+		return bStorable;
+	}
+
+	// A setter whose text becomes a soft path: refused when it cannot be an engine name or names no mount point.
 	template<class TEdit>
 	static sol::variadic_results EditJobPath(sol::state_view Lua, const FWeakJob& WeakJob, FLuaSessionData& Session, const TCHAR* Label, const FString& Path, TEdit&& Edit)
 	{
-		if (!CheckEngineNameLength(Session, Label, Path))
+		if (!CheckEngineNameLength(Session, Label, Path) || !CheckLongPackagePath(Session, Label, Path))
 		{
 			return NilValue(Lua);
 		}
