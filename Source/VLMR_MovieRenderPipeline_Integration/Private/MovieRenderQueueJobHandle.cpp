@@ -91,15 +91,17 @@ namespace VLMR
 	}
 
 	// A job setter: resolves the job, applies the edit and logs "[OK] <label> -> <text>"; nothing is returned on success.
+	// An edit that refuses its argument returns no text, after its own failure line, and the setter returns nil.
 	template<class TEdit>
 	static sol::variadic_results EditJob(sol::state_view Lua, const FWeakJob& WeakJob, FLuaSessionData& Session, const TCHAR* Label, TEdit&& Edit)
 	{
 		const FHeldJob Job = ResolveJob(WeakJob, Session, Label);
-		if (!Job)
+		const TOptional<FString> Text = Job ? Edit(*Job) : TOptional<FString>();
+		if (!Text.IsSet())
 		{
 			return NilValue(Lua);
 		}
-		LogLine(Session, ELineKind::Ok, Label, Edit(*Job));
+		LogLine(Session, ELineKind::Ok, Label, Text.GetValue());
 		return NoValue();
 	}
 
@@ -118,11 +120,14 @@ namespace VLMR
 	template<class TEdit>
 	static sol::variadic_results EditJobPath(sol::state_view Lua, const FWeakJob& WeakJob, FLuaSessionData& Session, const TCHAR* Label, const FString& Path, TEdit&& Edit)
 	{
-		if (!CheckEngineNameLength(Session, Label, Path) || !CheckLongPackagePath(Session, Label, Path))
-		{
-			return NilValue(Lua);
-		}
-		return EditJob(Lua, WeakJob, Session, Label, [&Path, &Edit](UMoviePipelineExecutorJob& Job) { Edit(Job, Path); return Path; });
+		return EditJob(Lua, WeakJob, Session, Label, [&](UMoviePipelineExecutorJob& Job) -> TOptional<FString> {
+			if (!CheckEngineNameLength(Session, Label, Path) || !CheckLongPackagePath(Session, Label, Path))
+			{
+				return {};
+			}
+			Edit(Job, Path);
+			return Path;
+		});
 	}
 
 	// Points the job at a preset asset named by the script: "/Game/" rule, typed load, then the job's own setter.
@@ -131,12 +136,8 @@ namespace VLMR
 		const TCHAR* What, const FString& AssetPath, TAssign&& Assign)
 	{
 		const FString Path = PrefixGameRoot(AssetPath);
-		if (!CheckEngineNameLength(Session, Label, Path))
-		{
-			return Nil(Lua);
-		}
 		const FHeldJob Job = ResolveJob(WeakJob, Session, Label);
-		if (!Job)
+		if (!Job || !CheckEngineNameLength(Session, Label, Path))
 		{
 			return Nil(Lua);
 		}

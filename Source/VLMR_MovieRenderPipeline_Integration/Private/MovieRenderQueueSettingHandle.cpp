@@ -83,13 +83,9 @@ namespace VLMR
 	static void SettingSet(const FWeakSetting& WeakSetting, FLuaSessionData& Session, const FString& Name, const FString& Value)
 	{
 		const TCHAR* Label = TEXT("set");
-		if (!CheckEngineNameLength(Session, Label, Name))
-		{
-			return;
-		}
 		// Importing an object reference may load, and a load may collect: the setting is held until the end.
 		const FHeldSetting Setting = ResolveSetting(WeakSetting, Session, Label);
-		if (!Setting)
+		if (!Setting || !CheckEngineNameLength(Session, Label, Name))
 		{
 			return;
 		}
