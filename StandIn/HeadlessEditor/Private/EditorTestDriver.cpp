@@ -2,6 +2,7 @@
 
 #include "Editor.h"
 #include "EditorAssetOperations.h"
+#include "HostTestHooks.h"
 #include "LevelSequence.h"
 #include "LevelSequenceAssets.h"
 #include "LuaSessionData.h"
@@ -225,7 +226,7 @@ namespace UE::Vlmr
 		{
 			const char* Prefix = luaL_checkstring(L, 1);
 			luaL_checktype(L, 2, LUA_TBOOLEAN);
-			FLuaSessionData::SetPackagePrefixEditable(ToFString(Prefix), lua_toboolean(L, 2) != 0);
+			UE::VelmireAI::Private::SetPackagePrefixReadOnly(ToFString(Prefix), lua_toboolean(L, 2) == 0);
 			return 0;
 		}
 
@@ -260,7 +261,8 @@ namespace UE::Vlmr
 		};
 		lua_createtable(L, 0, UE_ARRAY_COUNT(Functions) - 1);
 		lua_pushlightuserdata(L, &Session);
-		luaL_setfuncs(L, Functions, 1);
+		PushMovieRenderQueueDriverState(L);
+		luaL_setfuncs(L, Functions, 2);
 		lua_setglobal(L, "editor");
 	}
 }

@@ -7,14 +7,44 @@
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueueSubsystem.h"
 #include "MovieRenderPipelineSettings.h"
+#include "Subsystems/SubsystemCollection.h"
 #include "Templates/Casts.h"
 #include "TestDriverExecutor.h"
 #include "UObject/GarbageCollection.h"
+#include "UObject/Package.h"
+#include "UObject/StrongObjectPtr.h"
+
+#include <new>
 
 namespace UE::Vlmr
 {
 	namespace
 	{
+		const char* const DriverStateMetatable = "vlmr.MovieRenderQueueDriverState";
+
+		struct FMovieRenderQueueDriverState
+		{
+			// The jobs of the queue whose subsystem was deactivated, kept in a queue of the transient package.
+			TStrongObjectPtr<UMoviePipelineQueue> RemovedQueue;
+		};
+
+		FMovieRenderQueueDriverState& GetDriverState(lua_State* L)
+		{
+			void* State = luaL_testudata(L, lua_upvalueindex(2), DriverStateMetatable);
+			if (!State)
+			{
+				luaL_error(L, "editor: the test driver's state was replaced");
+			}
+			return *static_cast<FMovieRenderQueueDriverState*>(State);
+		}
+
+		// Only lets go of the kept queue (Lua frees the memory), so that a script calling __gc itself leaves a usable state.
+		int ReleaseDriverState(lua_State* L)
+		{
+			static_cast<FMovieRenderQueueDriverState*>(luaL_checkudata(L, 1, DriverStateMetatable))->RemovedQueue.Reset();
+			return 0;
+		}
+
 		void PushFString(lua_State* L, const FString& Text)
 		{
 			const FTCHARToUTF8 Utf8(*Text);
@@ -59,19 +89,58 @@ namespace UE::Vlmr
 			return Subsystem->IsRendering() ? TEXT("editor.set_rendering: a render started by the engine is in progress") : FString();
 		}
 
-		// Stand-in choice: without DeactivateExternalSubsystem, the subsystem is marked garbage and leaves at the next collection.
-		FString SetQueueSubsystemAvailable(bool bAvailable)
+		// Copies the queue's jobs, origin and dirty state into the other queue.
+		void CopyQueue(UMoviePipelineQueue& Target, UMoviePipelineQueue& Source)
+		{
+			Target.CopyFrom(&Source);
+			Target.SetIsDirty(Source.IsDirty());
+		}
+
+		// The subsystem goes as it does when its plugin is deactivated, collected at once with its queue and jobs.
+		void RemoveQueueSubsystem(FMovieRenderQueueDriverState& State, UMoviePipelineQueueSubsystem& Subsystem)
+		{
+			State.RemovedQueue.Reset(NewObject<UMoviePipelineQueue>(GetTransientPackage()));
+			if (UMoviePipelineQueue* Queue = Subsystem.GetQueue())
+			{
+				CopyQueue(*State.RemovedQueue, *Queue);
+			}
+			FSubsystemCollectionBase::DeactivateExternalSubsystem(UMoviePipelineQueueSubsystem::StaticClass());
+			CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		}
+
+		FString RestoreQueueSubsystem(FMovieRenderQueueDriverState& State)
+		{
+			FSubsystemCollectionBase::ActivateExternalSubsystem(UMoviePipelineQueueSubsystem::StaticClass());
+			UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+			UMoviePipelineQueue* Queue = Subsystem ? Subsystem->GetQueue() : nullptr;
+			if (!Queue)
+			{
+				return TEXT("editor.set_queue_subsystem_available: the editor did not create the Movie Pipeline queue subsystem");
+			}
+			if (State.RemovedQueue)
+			{
+				CopyQueue(*Queue, *State.RemovedQueue);
+				State.RemovedQueue.Reset();
+			}
+			return FString();
+		}
+
+		FString SetQueueSubsystemAvailable(FMovieRenderQueueDriverState& State, bool bAvailable)
 		{
 			UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+			if (bAvailable == (Subsystem != nullptr))
+			{
+				return FString();
+			}
 			if (bAvailable)
 			{
-				return Subsystem ? FString() : TEXT("editor.set_queue_subsystem_available: a removed subsystem cannot be brought back in this session");
+				return RestoreQueueSubsystem(State);
 			}
-			if (Subsystem)
+			if (Subsystem->IsRendering())
 			{
-				Subsystem->MarkAsGarbage();
-				CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+				return TEXT("editor.set_queue_subsystem_available: a render is in progress");
 			}
+			RemoveQueueSubsystem(State, *Subsystem);
 			return FString();
 		}
 
@@ -98,6 +167,17 @@ namespace UE::Vlmr
 			UMovieRenderPipelineProjectSettings* Settings = UMovieRenderPipelineProjectSettings::StaticClass()->GetDefaultObject<UMovieRenderPipelineProjectSettings>();
 			Settings->DefaultLocalExecutor = FSoftClassPath(FString(UTF8_TO_TCHAR(ClassPath)));
 		}
+	}
+
+	void PushMovieRenderQueueDriverState(lua_State* L)
+	{
+		new (lua_newuserdatauv(L, sizeof(FMovieRenderQueueDriverState), 0)) FMovieRenderQueueDriverState();
+		if (luaL_newmetatable(L, DriverStateMetatable))
+		{
+			lua_pushcfunction(L, &ReleaseDriverState);
+			lua_setfield(L, -2, "__gc");
+		}
+		lua_setmetatable(L, -2);
 	}
 
 	int LuaCreateConfig(lua_State* L)
@@ -130,9 +210,10 @@ namespace UE::Vlmr
 	{
 		luaL_checktype(L, 1, LUA_TBOOLEAN);
 		const bool bAvailable = lua_toboolean(L, 1) != 0;
+		FMovieRenderQueueDriverState& State = GetDriverState(L);
 		bool bFailed = false;
 		{
-			const FString Failure = SetQueueSubsystemAvailable(bAvailable);
+			const FString Failure = SetQueueSubsystemAvailable(State, bAvailable);
 			bFailed = !Failure.IsEmpty();
 			if (bFailed)
 			{
