@@ -253,6 +253,7 @@ namespace UE::Vlmr
 			{ "set_package_editable", &LuaSetPackageEditable },
 			{ "engine_version", &LuaEngineVersion },
 			{ "create_config", &LuaCreateConfig },
+			{ "create_graph", &LuaCreateGraph },
 			{ "set_rendering", &LuaSetRendering },
 			{ "set_queue_subsystem_available", &LuaSetQueueSubsystemAvailable },
 			{ "set_default_local_executor", &LuaSetDefaultLocalExecutor },

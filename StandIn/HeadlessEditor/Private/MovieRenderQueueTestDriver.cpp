@@ -2,6 +2,7 @@
 
 #include "ConfigAssets.h"
 #include "Editor.h"
+#include "Graph/MovieGraphConfig.h"
 #include "HAL/FileManager.h"
 #include "Misc/Paths.h"
 #include "MoviePipelinePrimaryConfig.h"
@@ -56,13 +57,28 @@ namespace UE::Vlmr
 			return GEditor ? GEditor->GetEditorSubsystem<UMoviePipelineQueueSubsystem>() : nullptr;
 		}
 
+		template <typename TAsset>
+		using TCreateAssetFunction = TAsset* (*)(const FString& AssetPath, FString& OutError);
+
 		// Pushes the new asset's object path, or the reason it could not be made; true on success.
-		bool PushNewConfig(lua_State* L, const char* AssetPath)
+		template <typename TAsset>
+		bool PushNewAsset(lua_State* L, const char* AssetPath, const TCHAR* FunctionName, TCreateAssetFunction<TAsset> Create)
 		{
 			FString Error;
-			const UMoviePipelinePrimaryConfig* Config = CreatePrimaryConfigAsset(FString(UTF8_TO_TCHAR(AssetPath)), Error);
-			PushFString(L, Config ? Config->GetPathName() : TEXT("editor.create_config: ") + Error);
-			return Config != nullptr;
+			const TAsset* Asset = Create(FString(UTF8_TO_TCHAR(AssetPath)), Error);
+			PushFString(L, Asset ? Asset->GetPathName() : FString::Printf(TEXT("%s: %s"), FunctionName, *Error));
+			return Asset != nullptr;
+		}
+
+		template <typename TAsset>
+		int CreateAssetFromLua(lua_State* L, const TCHAR* FunctionName, TCreateAssetFunction<TAsset> Create)
+		{
+			const char* AssetPath = luaL_checkstring(L, 1);
+			if (!PushNewAsset<TAsset>(L, AssetPath, FunctionName, Create))
+			{
+				return lua_error(L);
+			}
+			return 1;
 		}
 
 		// The message of the failure, or an empty text when the render state is now as asked.
@@ -182,12 +198,12 @@ namespace UE::Vlmr
 
 	int LuaCreateConfig(lua_State* L)
 	{
-		const char* AssetPath = luaL_checkstring(L, 1);
-		if (!PushNewConfig(L, AssetPath))
-		{
-			return lua_error(L);
-		}
-		return 1;
+		return CreateAssetFromLua<UMoviePipelinePrimaryConfig>(L, TEXT("editor.create_config"), &CreatePrimaryConfigAsset);
+	}
+
+	int LuaCreateGraph(lua_State* L)
+	{
+		return CreateAssetFromLua<UMovieGraphConfig>(L, TEXT("editor.create_graph"), &CreateGraphConfigAsset);
 	}
 
 	int LuaSetRendering(lua_State* L)

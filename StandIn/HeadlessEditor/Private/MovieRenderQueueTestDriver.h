@@ -13,6 +13,9 @@ namespace UE::Vlmr
 	// editor.create_config(path): a new, saved primary configuration asset; returns its object path.
 	int LuaCreateConfig(lua_State* L);
 
+	// editor.create_graph(path): a new, saved Movie Render Graph asset; returns its object path.
+	int LuaCreateGraph(lua_State* L);
+
 	// editor.set_rendering(bool): starts (true) or finishes (false) a render of the editor queue by an executor that
 	// renders nothing, so that the queue subsystem reports a render in progress in between.
 	int LuaSetRendering(lua_State* L);
