@@ -8,6 +8,7 @@
 #include "LuaSessionData.h"
 #include "MovieRenderQueueTestDriver.h"
 #include "RenderWait.h"
+#include "RunStop.h"
 #include "Runtime/Launch/Resources/Version.h"
 #include "SequenceShotOptions.h"
 #include "UObject/GarbageCollection.h"
@@ -36,11 +37,12 @@ namespace UE::Vlmr
 
 		int32 TickEditor(int32 TickCount)
 		{
-			for (int32 Tick = 0; Tick < TickCount; ++Tick)
+			int32 Ticks = 0;
+			for (; Ticks < TickCount && !IsStopRequested(); ++Ticks)
 			{
 				GEditor->Tick(EditorTickSeconds, false);
 			}
-			return TickCount;
+			return Ticks;
 		}
 
 		int LuaTick(lua_State* L)
