@@ -1,7 +1,8 @@
 # Runs vlmr and checks its exit code and what it wrote.
 #   cmake -DVLMR=<program> -DARGUMENTS=<arguments separated by |> -DEXPECTED_EXIT=<code>
 #         [-DEXPECTED_STDERR=<regex>] [-DEXPECTED_STDOUT=<regex>] [-DSCRIPT=<scenario>]
-#         [-DREMOVE_BEFORE=<folder>] [-DEXPECTED_FILE=<file that must exist afterwards>] -P ExpectRun.cmake
+#         [-DREMOVE_BEFORE=<folder>] [-DEXPECTED_FILE=<file that must exist afterwards>]
+#         [-DTEMPORARY_DIR=<folder, made empty and given as TMPDIR, that must be empty afterwards>] -P ExpectRun.cmake
 # A scenario may give its expectations in its first lines: "-- expect-error: <regex>" and "-- expect-output: <regex>".
 if(SCRIPT)
 	file(STRINGS "${SCRIPT}" ExpectationLines REGEX "^-- expect-(error|output): ")
@@ -18,6 +19,12 @@ if(REMOVE_BEFORE)
 	file(REMOVE_RECURSE "${REMOVE_BEFORE}")
 endif()
 
+if(TEMPORARY_DIR)
+	file(REMOVE_RECURSE "${TEMPORARY_DIR}")
+	file(MAKE_DIRECTORY "${TEMPORARY_DIR}")
+	set(ENV{TMPDIR} "${TEMPORARY_DIR}")
+endif()
+
 string(REPLACE "|" ";" ArgumentList "${ARGUMENTS}")
 execute_process(COMMAND "${VLMR}" ${ArgumentList}
 	RESULT_VARIABLE ExitCode OUTPUT_VARIABLE Output ERROR_VARIABLE Errors)
@@ -32,6 +39,12 @@ if(DEFINED EXPECTED_STDERR AND NOT Errors MATCHES "${EXPECTED_STDERR}")
 endif()
 if(DEFINED EXPECTED_STDOUT AND NOT Output MATCHES "${EXPECTED_STDOUT}")
 	message(FATAL_ERROR "stdout does not match '${EXPECTED_STDOUT}':\n${Output}")
+endif()
+if(TEMPORARY_DIR)
+	file(GLOB LeftBehind LIST_DIRECTORIES true "${TEMPORARY_DIR}/*" "${TEMPORARY_DIR}/.*")
+	if(LeftBehind)
+		message(FATAL_ERROR "left behind in the temporary folder: ${LeftBehind}")
+	endif()
 endif()
 if(DEFINED EXPECTED_FILE AND NOT EXISTS "${EXPECTED_FILE}")
 	message(FATAL_ERROR "${EXPECTED_FILE} was not written")

@@ -8,6 +8,12 @@ editor.collect_garbage()
 check.eq(editor.unload_package("/Game/Presets/Nightly"), true, "the preset was in memory")
 check.raises(function() editor.create_config("/Game/Presets/Nightly") end, "already exists", "the saved preset is on disk")
 
+check.eq(editor.create_graph("/Game/Graphs/Main"), "/Game/Graphs/Main.Main", "new graph asset")
+check.raises(function() editor.create_graph("/Game/Graphs/Main") end, "^editor.create_graph: an asset already exists at '/Game/Graphs/Main'$", "existing graph")
+check.raises(function() editor.create_graph("/Game/Presets/Weekly") end, "already exists", "a preset's path")
+check.raises(function() editor.create_graph({}) end, "string expected", "path as a table")
+check.eq(editor.list_files("Content/Graphs"), { "Main.uasset" }, "the graph is saved")
+
 local shots = {
 	{ name = "sh010", camera = "CineCam_A", start = 0, ["end"] = 48 },
 	{ name = "sh020", start = 48 },
@@ -54,6 +60,7 @@ editor.clear_log()
 check.eq(mrq_get_queue(), nil, "no queue without the subsystem")
 check.lines({ "[FAIL] mrq_get_queue -> Movie Pipeline subsystem not available" }, "subsystem missing line")
 check.raises(function() editor.set_rendering(true) end, "the Movie Pipeline queue subsystem is not available", "no render without the subsystem")
-check.raises(function() editor.set_queue_subsystem_available(true) end, "cannot be brought back", "no way back in this session")
+editor.set_queue_subsystem_available(true)
+check.eq(mrq_get_queue().count, 1, "the subsystem comes back with its queue")
 
 check.summary()

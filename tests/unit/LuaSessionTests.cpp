@@ -1,4 +1,5 @@
 #include "LuaSessionData.h"
+#include "PackageEditPolicy.h"
 #include "VelmireExtensionRegistrar.h"
 #include "VelmireLuaSession.h"
 
@@ -165,12 +166,12 @@ TEST(LuaSessionData, EnsurePackageEditableRefusesWithOneLineNamingPackageAndReas
 
 	EXPECT_FALSE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/Bad Name")), TEXT("mrq_save_queue"), true));
 
-	FLuaSessionData::SetPackagePrefixEditable(TEXT("/Game/Locked"), false);
+	UE::VelmireAI::Private::SetPackagePrefixReadOnly(TEXT("/Game/Locked"), true);
 	EXPECT_FALSE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/Locked/Shot")), TEXT("graph:add_node"), true));
 	EXPECT_FALSE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/Locked")), TEXT("graph:add_node"), true));
 	EXPECT_TRUE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/LockedOther/Shot")), TEXT("graph:add_node"), true));
 	EXPECT_FALSE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/Locked/Quiet")), TEXT("graph:add_node"), false));
-	FLuaSessionData::SetPackagePrefixEditable(TEXT("/Game/Locked"), true);
+	UE::VelmireAI::Private::SetPackagePrefixReadOnly(TEXT("/Game/Locked"), false);
 	EXPECT_TRUE(Session.EnsurePackageEditable(CreatePackage(TEXT("/Game/Locked/Shot")), TEXT("graph:add_node"), true));
 
 	const TArray<FString> Expected = {

@@ -3,9 +3,31 @@
 #include "UObject/UObjectHash.h"
 #include "Templates/UnrealTemplate.h"
 
+namespace
+{
+	// The collections between Initialize and Deinitialize: the ones external activation and deactivation reach.
+	TArray<FSubsystemCollectionBase*>& GetInitializedCollections()
+	{
+		static TArray<FSubsystemCollectionBase*> Collections;
+		return Collections;
+	}
+
+	// Stand-in choice: a deactivated class stays out of collections initialized later, until it is activated again.
+	TArray<UClass*>& GetDeactivatedClasses()
+	{
+		static TArray<UClass*> Classes;
+		return Classes;
+	}
+}
+
 FSubsystemCollectionBase::FSubsystemCollectionBase(UClass* InBaseType)
 	: BaseType(InBaseType)
 {
+}
+
+FSubsystemCollectionBase::~FSubsystemCollectionBase()
+{
+	GetInitializedCollections().Remove(this);
 }
 
 USubsystem* FSubsystemCollectionBase::InitializeDependency(TSubclassOf<USubsystem> SubsystemClass)
@@ -27,11 +49,15 @@ void FSubsystemCollectionBase::Initialize(UObject* NewOuter)
 		return;
 	}
 	Outer = NewOuter;
+	GetInitializedCollections().Add(this);
 	TArray<UClass*> SubsystemClasses;
 	GetDerivedClasses(BaseType, SubsystemClasses, true);
 	for (UClass* SubsystemClass : SubsystemClasses)
 	{
-		AddAndInitializeSubsystem(SubsystemClass);
+		if (!GetDeactivatedClasses().Contains(SubsystemClass))
+		{
+			AddAndInitializeSubsystem(SubsystemClass);
+		}
 	}
 }
 
@@ -47,6 +73,54 @@ void FSubsystemCollectionBase::Deinitialize()
 	}
 	Subsystems.Empty();
 	Outer = nullptr;
+	GetInitializedCollections().Remove(this);
+}
+
+void FSubsystemCollectionBase::ActivateExternalSubsystem(UClass* SubsystemClass)
+{
+	if (SubsystemClass)
+	{
+		GetDeactivatedClasses().Remove(SubsystemClass);
+		ForEachCollectionOfBaseTypeOf(SubsystemClass, [SubsystemClass](FSubsystemCollectionBase& Collection)
+		{
+			Collection.AddAndInitializeSubsystem(SubsystemClass);
+		});
+	}
+}
+
+void FSubsystemCollectionBase::DeactivateExternalSubsystem(UClass* SubsystemClass)
+{
+	if (SubsystemClass)
+	{
+		GetDeactivatedClasses().AddUnique(SubsystemClass);
+		ForEachCollectionOfBaseTypeOf(SubsystemClass, [SubsystemClass](FSubsystemCollectionBase& Collection)
+		{
+			Collection.RemoveAndDeinitializeSubsystem(Collection.FindSubsystemOfExactClass(SubsystemClass));
+		});
+	}
+}
+
+void FSubsystemCollectionBase::ForEachCollectionOfBaseTypeOf(UClass* SubsystemClass, TFunctionRef<void(FSubsystemCollectionBase&)> Visit)
+{
+	// A copy: initializing or deinitializing a subsystem may start or stop collections.
+	const TArray<FSubsystemCollectionBase*> Collections = GetInitializedCollections();
+	for (FSubsystemCollectionBase* Collection : Collections)
+	{
+		if (GetInitializedCollections().Contains(Collection) && SubsystemClass->IsChildOf(Collection->BaseType))
+		{
+			Visit(*Collection);
+		}
+	}
+}
+
+void FSubsystemCollectionBase::RemoveAndDeinitializeSubsystem(USubsystem* Subsystem)
+{
+	if (Subsystem)
+	{
+		Subsystem->Deinitialize();
+		Subsystem->InternalOwningSubsystem = nullptr;
+		Subsystems.Remove(Subsystem);
+	}
 }
 
 USubsystem* FSubsystemCollectionBase::AddAndInitializeSubsystem(UClass* SubsystemClass)

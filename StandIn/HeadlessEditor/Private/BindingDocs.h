@@ -7,8 +7,11 @@ struct FVelmireLuaBinding;
 
 namespace UE::Vlmr
 {
+	struct FHandleType;
+
 	TArray<FString> MakeMarkdownDocs(const TArray<FVelmireLuaBinding>& Bindings);
 
-	// A `---@meta` file: the global functions of every binding, help(), and the handle classes with their methods.
-	TArray<FString> MakeLuaLSDefinitions(const TArray<FVelmireLuaBinding>& Bindings);
+	// A `---@meta` file: the global functions of every binding, help(), and one class per handle kind with the fields and
+	// methods of the real handles found (DiscoverHandleTypes) and the methods the records document.
+	TArray<FString> MakeLuaLSDefinitions(const TArray<FVelmireLuaBinding>& Bindings, const TArray<FHandleType>& DiscoveredHandles);
 }

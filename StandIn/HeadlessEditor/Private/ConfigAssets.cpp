@@ -1,29 +1,28 @@
 #include "ConfigAssets.h"
 
-#include "AssetRegistry/AssetRegistryModule.h"
 #include "EditorAssetOperations.h"
-#include "Misc/PackageName.h"
+#include "Graph/MovieGraphConfig.h"
 #include "MoviePipelinePrimaryConfig.h"
-#include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 
 namespace UE::Vlmr
 {
+	namespace
+	{
+		template <typename TAsset>
+		TAsset* CreateSavedAsset(const FString& AssetPath, FString& OutError)
+		{
+			TAsset* Asset = NewAsset<TAsset>(AssetPath, OutError);
+			return Asset && CompleteNewAsset(Asset, OutError) ? Asset : nullptr;
+		}
+	}
+
 	UMoviePipelinePrimaryConfig* CreatePrimaryConfigAsset(const FString& AssetPath, FString& OutError)
 	{
-		const FString PackageName = ToPackageName(AssetPath);
-		if (!CheckNewAssetPackageName(PackageName, OutError))
-		{
-			return nullptr;
-		}
-		UPackage* Package = CreatePackage(*PackageName);
-		const FName AssetName(*FPackageName::GetLongPackageAssetName(PackageName));
-		UMoviePipelinePrimaryConfig* Config = NewObject<UMoviePipelinePrimaryConfig>(Package, AssetName, RF_Public | RF_Standalone | RF_Transactional);
-		FAssetRegistryModule::AssetCreated(Config);
-		if (!SaveAssetPackage(Config, OutError))
-		{
-			return nullptr;
-		}
-		return Config;
+		return CreateSavedAsset<UMoviePipelinePrimaryConfig>(AssetPath, OutError);
+	}
+
+	UMovieGraphConfig* CreateGraphConfigAsset(const FString& AssetPath, FString& OutError)
+	{
+		return CreateSavedAsset<UMovieGraphConfig>(AssetPath, OutError);
 	}
 }

@@ -1,5 +1,6 @@
 #include "BindingDocs.h"
 #include "ConsoleOutput.h"
+#include "HandleDiscovery.h"
 #include "HeadlessEditorScope.h"
 #include "VelmireExtensionRegistrar.h"
 #include "VlmrCommands.h"
@@ -14,7 +15,8 @@ namespace UE::Vlmr
 			PrintUsage();
 			return ExitUsage;
 		}
-		// The bindings register when their modules start, so the editor runs while the records are read.
+		// The bindings register when their modules start, so the editor runs while the records are read; the handles
+		// are read from real ones, built in the temporary copy of the sample project the editor opens.
 		FHeadlessEditorScope Editor;
 		if (!Editor.IsRunning())
 		{
@@ -22,7 +24,7 @@ namespace UE::Vlmr
 			return ExitFailure;
 		}
 		const TArray<FVelmireLuaBinding>& Bindings = FVelmireExtensionRegistrar::Get().GetBindings();
-		for (const FString& Line : bLuaLS ? MakeLuaLSDefinitions(Bindings) : MakeMarkdownDocs(Bindings))
+		for (const FString& Line : bLuaLS ? MakeLuaLSDefinitions(Bindings, DiscoverHandleTypes()) : MakeMarkdownDocs(Bindings))
 		{
 			WriteLine(stdout, Line);
 		}

@@ -71,6 +71,29 @@ namespace UE::Vlmr
 		return true;
 	}
 
+	UObject* NewAsset(const FString& AssetPath, const UClass* AssetClass, FString& OutError)
+	{
+		const FString PackageName = ToPackageName(AssetPath);
+		if (!CheckNewAssetPackageName(PackageName, OutError))
+		{
+			return nullptr;
+		}
+		UPackage* Package = CreatePackage(*PackageName);
+		const FName AssetName(*FPackageName::GetLongPackageAssetName(PackageName));
+		return NewObject<UObject>(Package, AssetClass, AssetName, RF_Public | RF_Standalone | RF_Transactional);
+	}
+
+	bool CompleteNewAsset(UObject* Asset, FString& OutError)
+	{
+		FAssetRegistryModule::AssetCreated(Asset);
+		if (!SaveAssetPackage(Asset, OutError))
+		{
+			DiscardNewAsset(Asset);
+			return false;
+		}
+		return true;
+	}
+
 	bool SaveAssetPackage(UObject* Asset, FString& OutError)
 	{
 		UPackage* Package = Asset ? Asset->GetPackage() : nullptr;

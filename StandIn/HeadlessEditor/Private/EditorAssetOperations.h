@@ -3,6 +3,7 @@
 
 #include "CoreMinimal.h"
 
+class UClass;
 class UObject;
 
 namespace UE::Vlmr
@@ -16,6 +17,19 @@ namespace UE::Vlmr
 
 	// Whether a new asset can be created at the package name: a valid long package name with nothing there yet.
 	bool CheckNewAssetPackageName(const FString& PackageName, FString& OutError);
+
+	// A new asset at a new package path, made as the editor's asset factories make it (public, standalone,
+	// transactional), not yet announced or saved; null with the reason when the path is invalid or taken.
+	UObject* NewAsset(const FString& AssetPath, const UClass* AssetClass, FString& OutError);
+
+	template <typename TAsset>
+	TAsset* NewAsset(const FString& AssetPath, FString& OutError)
+	{
+		return static_cast<TAsset*>(NewAsset(AssetPath, TAsset::StaticClass(), OutError));
+	}
+
+	// Announces a new asset to the asset registry and saves it; false, with the asset discarded, when it cannot be saved.
+	bool CompleteNewAsset(UObject* Asset, FString& OutError);
 
 	// Saves the asset's package to its file under the project's Content folder (".umap" for a world).
 	bool SaveAssetPackage(UObject* Asset, FString& OutError);

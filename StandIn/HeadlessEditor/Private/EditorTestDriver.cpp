@@ -2,11 +2,13 @@
 
 #include "Editor.h"
 #include "EditorAssetOperations.h"
+#include "HostTestHooks.h"
 #include "LevelSequence.h"
 #include "LevelSequenceAssets.h"
 #include "LuaSessionData.h"
 #include "MovieRenderQueueTestDriver.h"
 #include "RenderWait.h"
+#include "RunStop.h"
 #include "Runtime/Launch/Resources/Version.h"
 #include "SequenceShotOptions.h"
 #include "UObject/GarbageCollection.h"
@@ -35,11 +37,12 @@ namespace UE::Vlmr
 
 		int32 TickEditor(int32 TickCount)
 		{
-			for (int32 Tick = 0; Tick < TickCount; ++Tick)
+			int32 Ticks = 0;
+			for (; Ticks < TickCount && !IsStopRequested(); ++Ticks)
 			{
 				GEditor->Tick(EditorTickSeconds, false);
 			}
-			return TickCount;
+			return Ticks;
 		}
 
 		int LuaTick(lua_State* L)
@@ -225,7 +228,7 @@ namespace UE::Vlmr
 		{
 			const char* Prefix = luaL_checkstring(L, 1);
 			luaL_checktype(L, 2, LUA_TBOOLEAN);
-			FLuaSessionData::SetPackagePrefixEditable(ToFString(Prefix), lua_toboolean(L, 2) != 0);
+			UE::VelmireAI::Private::SetPackagePrefixReadOnly(ToFString(Prefix), lua_toboolean(L, 2) == 0);
 			return 0;
 		}
 
@@ -252,6 +255,7 @@ namespace UE::Vlmr
 			{ "set_package_editable", &LuaSetPackageEditable },
 			{ "engine_version", &LuaEngineVersion },
 			{ "create_config", &LuaCreateConfig },
+			{ "create_graph", &LuaCreateGraph },
 			{ "set_rendering", &LuaSetRendering },
 			{ "set_queue_subsystem_available", &LuaSetQueueSubsystemAvailable },
 			{ "set_default_local_executor", &LuaSetDefaultLocalExecutor },
@@ -260,7 +264,8 @@ namespace UE::Vlmr
 		};
 		lua_createtable(L, 0, UE_ARRAY_COUNT(Functions) - 1);
 		lua_pushlightuserdata(L, &Session);
-		luaL_setfuncs(L, Functions, 1);
+		PushMovieRenderQueueDriverState(L);
+		luaL_setfuncs(L, Functions, 2);
 		lua_setglobal(L, "editor");
 	}
 }

@@ -1,12 +1,8 @@
 #include "LevelSequenceAssets.h"
 
-#include "AssetRegistry/AssetRegistryModule.h"
 #include "EditorAssetOperations.h"
 #include "LevelSequence.h"
 #include "MovieScene.h"
-#include "Misc/PackageName.h"
-#include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 
 namespace UE::Vlmr
 {
@@ -57,26 +53,17 @@ namespace UE::Vlmr
 
 	ULevelSequence* CreateLevelSequenceAsset(const FString& AssetPath, const FLevelSequenceAssetOptions& Options, FString& OutError)
 	{
-		const FString PackageName = ToPackageName(AssetPath);
-		if (!CheckNewAssetPackageName(PackageName, OutError))
+		ULevelSequence* Sequence = NewAsset<ULevelSequence>(AssetPath, OutError);
+		if (!Sequence)
 		{
 			return nullptr;
 		}
-		UPackage* Package = CreatePackage(*PackageName);
-		const FName AssetName(*FPackageName::GetLongPackageAssetName(PackageName));
-		ULevelSequence* Sequence = NewObject<ULevelSequence>(Package, AssetName, RF_Public | RF_Standalone | RF_Transactional);
 		Sequence->Initialize();
 		if (!ApplyOptions(Sequence->GetMovieScene(), Options, OutError))
 		{
 			DiscardNewAsset(Sequence);
 			return nullptr;
 		}
-		FAssetRegistryModule::AssetCreated(Sequence);
-		if (!SaveAssetPackage(Sequence, OutError))
-		{
-			DiscardNewAsset(Sequence);
-			return nullptr;
-		}
-		return Sequence;
+		return CompleteNewAsset(Sequence, OutError) ? Sequence : nullptr;
 	}
 }

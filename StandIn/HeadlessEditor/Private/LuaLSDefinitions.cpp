@@ -1,6 +1,6 @@
 #include "BindingDocs.h"
 
-#include "HandleTypes.h"
+#include "HandleDiscovery.h"
 #include "LuaSignature.h"
 #include "VelmireExtensionRegistrar.h"
 
@@ -85,18 +85,52 @@ namespace UE::Vlmr
 			OutLines.Add(TEXT("function help(binding) end"));
 		}
 
+		FHandleType& FindOrAddHandleType(TArray<FHandleType>& Types, const FString& Kind)
+		{
+			if (FHandleType* Existing = Types.FindByPredicate([&Kind](const FHandleType& Type) { return Type.Kind == Kind; }))
+			{
+				return *Existing;
+			}
+			FHandleType& Added = Types.AddDefaulted_GetRef();
+			Added.Kind = Kind;
+			return Added;
+		}
+
+		// The handles found on real handle tables, with the methods the records document for them and every handle kind
+		// a record returns, so that what the records promise is declared even where no handle could be built.
+		TArray<FHandleType> CollectHandleClasses(const TArray<FHandleType>& DiscoveredHandles, const TArray<FDocumentedFunction>& Functions)
+		{
+			TArray<FHandleType> Classes = DiscoveredHandles;
+			for (const FDocumentedFunction& Function : Functions)
+			{
+				if (Function.Signature.IsMethod())
+				{
+					FHandleType& Class = FindOrAddHandleType(Classes, Function.Signature.Owner);
+					Class.Methods.AddUnique(Function.Signature.Name);
+					Class.Methods.Sort();
+				}
+				for (const FString& Kind : FindHandleKinds(Function.Doc->Returns))
+				{
+					FindOrAddHandleType(Classes, Kind);
+				}
+			}
+			return Classes;
+		}
+
 		void AppendHandleClass(const FHandleType& Handle, const TArray<FDocumentedFunction>& Functions, TArray<FString>& OutLines)
 		{
 			OutLines.Add(FString());
 			OutLines.Add(TEXT("---@class ") + ToLuaLSClassName(Handle.Kind));
-			for (const TCHAR* Field : Handle.StringFields)
+			for (const FHandleField& Field : Handle.Fields)
 			{
-				OutLines.Add(FString::Printf(TEXT("---@field %s string"), Field));
+				// Fields named "__..." are the bindings' own bookkeeping, not for scripts.
+				OutLines.Add(FString::Printf(TEXT("---@field %s%s %s"), Field.Name.StartsWith(TEXT("__")) ? TEXT("private ") : TEXT(""),
+					*Field.Name, *Field.LuaType));
 			}
-			OutLines.Add(FString::Printf(TEXT("local %s = {}"), Handle.Kind));
-			for (const TCHAR* Method : Handle.Methods)
+			OutLines.Add(FString::Printf(TEXT("local %s = {}"), *Handle.Kind));
+			for (const FString& Method : Handle.Methods)
 			{
-				const FString Declarator = FString::Printf(TEXT("%s:%s"), Handle.Kind, Method);
+				const FString Declarator = FString::Printf(TEXT("%s:%s"), *Handle.Kind, *Method);
 				if (const FDocumentedFunction* Function = FindFunction(Functions, Handle.Kind, Method))
 				{
 					AppendFunction(Declarator, *Function, OutLines);
@@ -110,7 +144,7 @@ namespace UE::Vlmr
 	}
 
 	// Stand-in choice: parameter types are `any`, as the records name parameters but not their types.
-	TArray<FString> MakeLuaLSDefinitions(const TArray<FVelmireLuaBinding>& Bindings)
+	TArray<FString> MakeLuaLSDefinitions(const TArray<FVelmireLuaBinding>& Bindings, const TArray<FHandleType>& DiscoveredHandles)
 	{
 		const TArray<FDocumentedFunction> Functions = CollectDocumentedFunctions(Bindings);
 		TArray<FString> Lines;
@@ -123,7 +157,7 @@ namespace UE::Vlmr
 				AppendFunction(Function.Signature.Name, Function, Lines);
 			}
 		}
-		for (const FHandleType& Handle : GetHandleTypes())
+		for (const FHandleType& Handle : CollectHandleClasses(DiscoveredHandles, Functions))
 		{
 			AppendHandleClass(Handle, Functions, Lines);
 		}

@@ -1,7 +1,5 @@
 #include "LuaSignature.h"
 
-#include "HandleTypes.h"
-
 namespace UE::Vlmr
 {
 	namespace
@@ -58,6 +56,29 @@ namespace UE::Vlmr
 			return true;
 		}
 
+		TArray<FString> SplitAlternatives(const FString& Returns)
+		{
+			TArray<FString> Alternatives;
+			Returns.ParseIntoArray(Alternatives, TEXT(" or "), true);
+			for (FString& Alternative : Alternatives)
+			{
+				Alternative.TrimStartAndEndInline();
+			}
+			return Alternatives;
+		}
+
+		// "job handle" names the handle kind "job".
+		bool ParseHandleKind(const FString& Alternative, FString& OutKind)
+		{
+			const FString Suffix = TEXT(" handle");
+			if (!Alternative.EndsWith(Suffix, ESearchCase::CaseSensitive))
+			{
+				return false;
+			}
+			OutKind = Alternative.LeftChop(Suffix.Len());
+			return IsIdentifier(OutKind);
+		}
+
 		FString ToLuaLSType(const FString& Alternative)
 		{
 			const FString Text = Alternative.TrimStartAndEnd();
@@ -77,14 +98,8 @@ namespace UE::Vlmr
 			{
 				return TEXT("table");
 			}
-			for (const FHandleType& Handle : GetHandleTypes())
-			{
-				if (Text == FString(Handle.Kind) + TEXT(" handle"))
-				{
-					return ToLuaLSClassName(Handle.Kind);
-				}
-			}
-			return TEXT("any");
+			FString HandleKind;
+			return ParseHandleKind(Text, HandleKind) ? ToLuaLSClassName(HandleKind) : FString(TEXT("any"));
 		}
 	}
 
@@ -120,10 +135,8 @@ namespace UE::Vlmr
 
 	FString ToLuaLSReturnType(const FString& Returns)
 	{
-		TArray<FString> Alternatives;
-		Returns.ParseIntoArray(Alternatives, TEXT(" or "), true);
 		TArray<FString> Types;
-		for (const FString& Alternative : Alternatives)
+		for (const FString& Alternative : SplitAlternatives(Returns))
 		{
 			Types.AddUnique(ToLuaLSType(Alternative));
 		}
@@ -132,6 +145,20 @@ namespace UE::Vlmr
 			return TEXT("any");
 		}
 		return FString::Join(Types, TEXT("|"));
+	}
+
+	TArray<FString> FindHandleKinds(const FString& Returns)
+	{
+		TArray<FString> Kinds;
+		for (const FString& Alternative : SplitAlternatives(Returns))
+		{
+			FString Kind;
+			if (ParseHandleKind(Alternative, Kind))
+			{
+				Kinds.AddUnique(Kind);
+			}
+		}
+		return Kinds;
 	}
 
 	FString ToLuaLSClassName(const FString& HandleKind)

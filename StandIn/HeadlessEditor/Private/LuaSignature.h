@@ -27,6 +27,9 @@ namespace UE::Vlmr
 	// The LuaLS type of a returns text: "job handle or nil" -> "vlmr.job|nil", "bool" -> "boolean", unknown -> "any".
 	FString ToLuaLSReturnType(const FString& Returns);
 
+	// The handle kinds a returns text names: "job handle or nil" -> { "job" }.
+	TArray<FString> FindHandleKinds(const FString& Returns);
+
 	// The LuaLS class of a handle kind: "job" -> "vlmr.job".
 	FString ToLuaLSClassName(const FString& HandleKind);
 }

@@ -2,19 +2,50 @@
 
 #include "ConfigAssets.h"
 #include "Editor.h"
+#include "Graph/MovieGraphConfig.h"
 #include "HAL/FileManager.h"
 #include "Misc/Paths.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueueSubsystem.h"
 #include "MovieRenderPipelineSettings.h"
+#include "Subsystems/SubsystemCollection.h"
 #include "Templates/Casts.h"
 #include "TestDriverExecutor.h"
 #include "UObject/GarbageCollection.h"
+#include "UObject/Package.h"
+#include "UObject/StrongObjectPtr.h"
+
+#include <new>
 
 namespace UE::Vlmr
 {
 	namespace
 	{
+		const char* const DriverStateMetatable = "vlmr.MovieRenderQueueDriverState";
+
+		struct FMovieRenderQueueDriverState
+		{
+			// The jobs of the queue whose subsystem was deactivated, kept in a queue of the transient package.
+			TStrongObjectPtr<UMoviePipelineQueue> RemovedQueue;
+		};
+
+		FMovieRenderQueueDriverState& GetDriverState(lua_State* L)
+		{
+			void* State = luaL_testudata(L, lua_upvalueindex(2), DriverStateMetatable);
+			if (!State)
+			{
+				luaL_error(L, "editor: the test driver's state was replaced");
+			}
+			return *static_cast<FMovieRenderQueueDriverState*>(State);
+		}
+
+		// Only lets go of the kept queue (Lua frees the memory), so that a script calling __gc itself leaves a usable state.
+		int ReleaseDriverState(lua_State* L)
+		{
+			static_cast<FMovieRenderQueueDriverState*>(luaL_checkudata(L, 1, DriverStateMetatable))->RemovedQueue.Reset();
+			return 0;
+		}
+
 		void PushFString(lua_State* L, const FString& Text)
 		{
 			const FTCHARToUTF8 Utf8(*Text);
@@ -26,13 +57,28 @@ namespace UE::Vlmr
 			return GEditor ? GEditor->GetEditorSubsystem<UMoviePipelineQueueSubsystem>() : nullptr;
 		}
 
+		template <typename TAsset>
+		using TCreateAssetFunction = TAsset* (*)(const FString& AssetPath, FString& OutError);
+
 		// Pushes the new asset's object path, or the reason it could not be made; true on success.
-		bool PushNewConfig(lua_State* L, const char* AssetPath)
+		template <typename TAsset>
+		bool PushNewAsset(lua_State* L, const char* AssetPath, const TCHAR* FunctionName, TCreateAssetFunction<TAsset> Create)
 		{
 			FString Error;
-			const UMoviePipelinePrimaryConfig* Config = CreatePrimaryConfigAsset(FString(UTF8_TO_TCHAR(AssetPath)), Error);
-			PushFString(L, Config ? Config->GetPathName() : TEXT("editor.create_config: ") + Error);
-			return Config != nullptr;
+			const TAsset* Asset = Create(FString(UTF8_TO_TCHAR(AssetPath)), Error);
+			PushFString(L, Asset ? Asset->GetPathName() : FString::Printf(TEXT("%s: %s"), FunctionName, *Error));
+			return Asset != nullptr;
+		}
+
+		template <typename TAsset>
+		int CreateAssetFromLua(lua_State* L, const TCHAR* FunctionName, TCreateAssetFunction<TAsset> Create)
+		{
+			const char* AssetPath = luaL_checkstring(L, 1);
+			if (!PushNewAsset<TAsset>(L, AssetPath, FunctionName, Create))
+			{
+				return lua_error(L);
+			}
+			return 1;
 		}
 
 		// The message of the failure, or an empty text when the render state is now as asked.
@@ -59,19 +105,58 @@ namespace UE::Vlmr
 			return Subsystem->IsRendering() ? TEXT("editor.set_rendering: a render started by the engine is in progress") : FString();
 		}
 
-		// Stand-in choice: without DeactivateExternalSubsystem, the subsystem is marked garbage and leaves at the next collection.
-		FString SetQueueSubsystemAvailable(bool bAvailable)
+		// Copies the queue's jobs, origin and dirty state into the other queue.
+		void CopyQueue(UMoviePipelineQueue& Target, UMoviePipelineQueue& Source)
+		{
+			Target.CopyFrom(&Source);
+			Target.SetIsDirty(Source.IsDirty());
+		}
+
+		// The subsystem goes as it does when its plugin is deactivated, collected at once with its queue and jobs.
+		void RemoveQueueSubsystem(FMovieRenderQueueDriverState& State, UMoviePipelineQueueSubsystem& Subsystem)
+		{
+			State.RemovedQueue.Reset(NewObject<UMoviePipelineQueue>(GetTransientPackage()));
+			if (UMoviePipelineQueue* Queue = Subsystem.GetQueue())
+			{
+				CopyQueue(*State.RemovedQueue, *Queue);
+			}
+			FSubsystemCollectionBase::DeactivateExternalSubsystem(UMoviePipelineQueueSubsystem::StaticClass());
+			CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		}
+
+		FString RestoreQueueSubsystem(FMovieRenderQueueDriverState& State)
+		{
+			FSubsystemCollectionBase::ActivateExternalSubsystem(UMoviePipelineQueueSubsystem::StaticClass());
+			UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+			UMoviePipelineQueue* Queue = Subsystem ? Subsystem->GetQueue() : nullptr;
+			if (!Queue)
+			{
+				return TEXT("editor.set_queue_subsystem_available: the editor did not create the Movie Pipeline queue subsystem");
+			}
+			if (State.RemovedQueue)
+			{
+				CopyQueue(*Queue, *State.RemovedQueue);
+				State.RemovedQueue.Reset();
+			}
+			return FString();
+		}
+
+		FString SetQueueSubsystemAvailable(FMovieRenderQueueDriverState& State, bool bAvailable)
 		{
 			UMoviePipelineQueueSubsystem* Subsystem = GetQueueSubsystem();
+			if (bAvailable == (Subsystem != nullptr))
+			{
+				return FString();
+			}
 			if (bAvailable)
 			{
-				return Subsystem ? FString() : TEXT("editor.set_queue_subsystem_available: a removed subsystem cannot be brought back in this session");
+				return RestoreQueueSubsystem(State);
 			}
-			if (Subsystem)
+			if (Subsystem->IsRendering())
 			{
-				Subsystem->MarkAsGarbage();
-				CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+				return TEXT("editor.set_queue_subsystem_available: a render is in progress");
 			}
+			RemoveQueueSubsystem(State, *Subsystem);
 			return FString();
 		}
 
@@ -100,14 +185,25 @@ namespace UE::Vlmr
 		}
 	}
 
+	void PushMovieRenderQueueDriverState(lua_State* L)
+	{
+		new (lua_newuserdatauv(L, sizeof(FMovieRenderQueueDriverState), 0)) FMovieRenderQueueDriverState();
+		if (luaL_newmetatable(L, DriverStateMetatable))
+		{
+			lua_pushcfunction(L, &ReleaseDriverState);
+			lua_setfield(L, -2, "__gc");
+		}
+		lua_setmetatable(L, -2);
+	}
+
 	int LuaCreateConfig(lua_State* L)
 	{
-		const char* AssetPath = luaL_checkstring(L, 1);
-		if (!PushNewConfig(L, AssetPath))
-		{
-			return lua_error(L);
-		}
-		return 1;
+		return CreateAssetFromLua<UMoviePipelinePrimaryConfig>(L, TEXT("editor.create_config"), &CreatePrimaryConfigAsset);
+	}
+
+	int LuaCreateGraph(lua_State* L)
+	{
+		return CreateAssetFromLua<UMovieGraphConfig>(L, TEXT("editor.create_graph"), &CreateGraphConfigAsset);
 	}
 
 	int LuaSetRendering(lua_State* L)
@@ -130,9 +226,10 @@ namespace UE::Vlmr
 	{
 		luaL_checktype(L, 1, LUA_TBOOLEAN);
 		const bool bAvailable = lua_toboolean(L, 1) != 0;
+		FMovieRenderQueueDriverState& State = GetDriverState(L);
 		bool bFailed = false;
 		{
-			const FString Failure = SetQueueSubsystemAvailable(bAvailable);
+			const FString Failure = SetQueueSubsystemAvailable(State, bAvailable);
 			bFailed = !Failure.IsEmpty();
 			if (bFailed)
 			{

@@ -60,6 +60,19 @@ namespace UE::Vlmr
 		return true;
 	}
 
+	bool IsProjectFolder(const FString& Dir)
+	{
+		std::error_code ErrorCode;
+		for (std::filesystem::directory_iterator It(ToPath(Dir), ErrorCode), End; !ErrorCode && It != End; It.increment(ErrorCode))
+		{
+			if (It->path().extension() == ".uproject" && It->is_regular_file(ErrorCode))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
 	bool IsMissingOrEmptyFolder(const FString& Dir)
 	{
 		std::error_code ErrorCode;

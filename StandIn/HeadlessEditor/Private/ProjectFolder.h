@@ -11,6 +11,9 @@ namespace UE::Vlmr
 	// Copies every file and folder under SourceDir into DestinationDir (created when missing).
 	bool CopyProjectFolder(const FString& SourceDir, const FString& DestinationDir, FString& OutError);
 
+	// A project folder is a folder that holds a project descriptor, a file named *.uproject, directly.
+	bool IsProjectFolder(const FString& Dir);
+
 	// True when the folder does not exist or holds nothing.
 	bool IsMissingOrEmptyFolder(const FString& Dir);
 

@@ -3,6 +3,7 @@
 #include "Editor.h"
 #include "EditorTestDriver.h"
 #include "MoviePipelineQueueSubsystem.h"
+#include "RunStop.h"
 
 namespace UE::Vlmr
 {
@@ -30,7 +31,7 @@ namespace UE::Vlmr
 	int32 TickUntilRenderIdle(int32 MaxTicks, TFunctionRef<void()> OnTicked)
 	{
 		int32 Ticks = 0;
-		while (Ticks < MaxTicks && GEditor && IsRenderInProgress())
+		while (Ticks < MaxTicks && GEditor && IsRenderInProgress() && !IsStopRequested())
 		{
 			GEditor->Tick(EditorTickSeconds, false);
 			++Ticks;

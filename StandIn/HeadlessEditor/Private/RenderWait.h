@@ -12,7 +12,7 @@ namespace UE::Vlmr
 	// The active executor's progress, 0 to 1; 0 without one.
 	float GetRenderProgress();
 
-	// Ticks the editor until no render is in progress or MaxTicks ticks were done, calling OnTicked after each tick;
-	// returns the number of ticks.
+	// Ticks the editor until no render is in progress, MaxTicks ticks were done or the run is asked to stop, calling
+	// OnTicked after each tick; returns the number of ticks.
 	int32 TickUntilRenderIdle(int32 MaxTicks, TFunctionRef<void()> OnTicked);
 }

@@ -1,7 +1,9 @@
 #include "ConsoleOutput.h"
 #include "EditorTestDriver.h"
 #include "HeadlessEditorScope.h"
+#include "ProjectFolder.h"
 #include "RenderWait.h"
+#include "RunStop.h"
 #include "VelmireLuaSession.h"
 #include "VlmrCommands.h"
 
@@ -82,25 +84,26 @@ namespace UE::Vlmr
 			}
 		}
 
-		// One session for all scripts, in order; the first Lua error ends the run.
+		// One session for all scripts, in order; the first Lua error ends the run, and so do os.exit and a signal.
 		int32 RunScripts(const TArray<FString>& Scripts, bool bWaitForRender)
 		{
 			FVelmireLuaSession Session([](const FString& Line) { WriteLine(stdout, Line); });
+			const FScriptStopScope StopScope(Session.GetState().lua_state());
 			InstallEditorTestDriver(Session.GetState().lua_state(), Session.GetSessionData());
-			for (const FString& Script : Scripts)
+			for (int32 Index = 0; Index < Scripts.Num() && !IsStopRequested(); ++Index)
 			{
 				FString Error;
-				if (!Session.RunFile(Script, Error))
+				if (!Session.RunFile(Scripts[Index], Error) && !IsStopRequested())
 				{
 					WriteLine(stderr, TEXT("error: ") + Error);
 					return ExitFailure;
 				}
 			}
-			if (bWaitForRender)
+			if (bWaitForRender && !IsStopRequested())
 			{
 				WaitForRender();
 			}
-			return ExitSuccess;
+			return GetRequestedExitCode().Get(ExitSuccess);
 		}
 	}
 
@@ -110,6 +113,11 @@ namespace UE::Vlmr
 		if (!ParseRunOptions(Arguments, Options))
 		{
 			PrintUsage();
+			return ExitUsage;
+		}
+		if (!Options.ProjectDir.IsEmpty() && !IsProjectFolder(Options.ProjectDir))
+		{
+			WriteLine(stderr, FString::Printf(TEXT("error: --project %s is not a project folder (a folder holding a .uproject file)"), *Options.ProjectDir));
 			return ExitUsage;
 		}
 		FHeadlessEditorScope Editor(Options.ProjectDir);

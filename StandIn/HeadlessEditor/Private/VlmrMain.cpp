@@ -1,4 +1,5 @@
 #include "ConsoleOutput.h"
+#include "RunStop.h"
 #include "VlmrCommands.h"
 
 namespace UE::Vlmr
@@ -60,5 +61,8 @@ namespace UE::Vlmr
 
 int main(int ArgumentCount, char** Arguments)
 {
-	return UE::Vlmr::RunMain(ArgumentCount, Arguments);
+	UE::Vlmr::InstallStopSignalHandlers();
+	const int32 ExitCode = UE::Vlmr::RunMain(ArgumentCount, Arguments);
+	UE::Vlmr::RaiseStopSignal();
+	return ExitCode;
 }

@@ -33,8 +33,3 @@ bool FLuaSessionData::EnsurePackageEditable(UPackage* Package, const wchar_t* La
 	}
 	return false;
 }
-
-void FLuaSessionData::SetPackagePrefixEditable(const FString& Prefix, bool bEditable)
-{
-	UE::VelmireAI::Private::SetPackagePrefixReadOnly(Prefix, !bEditable);
-}

@@ -27,9 +27,6 @@ public:
 	void ClearLog() { LogLines.Reset(); }
 	void SetLogSink(FLogSink InSink) { LogSink = MoveTemp(InSink); }
 
-	// Makes every package under the prefix read-only for this process's sessions (or editable again).
-	static void SetPackagePrefixEditable(const FString& Prefix, bool bEditable);
-
 private:
 	TArray<FString> LogLines;
 	FLogSink LogSink;

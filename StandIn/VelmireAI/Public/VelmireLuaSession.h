@@ -1,4 +1,5 @@
 // One Lua session of the host: a Lua state with the standard libraries, its session data, and every registered binding.
+// The stand-in host's own session runner, for vlmr and the tests; extensions never make sessions (StandIn/StandInOnly.txt).
 #pragma once
 
 #include "CoreMinimal.h"

@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "HAL/FileManager.h"
 #include "LuaSessionData.h"
+#include "PackageEditPolicy.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "UObject/Package.h"
@@ -108,10 +109,10 @@ TEST_F(ScriptSupportTest, SaveOfAGoneAssetFailsWithoutTouchingDisk)
 
 TEST_F(ScriptSupportTest, SaveRefusedByTheHostAddsNoLineOfItsOwn)
 {
-	FLuaSessionData::SetPackagePrefixEditable(TEXT("/Game/Locked/"), false);
+	UE::VelmireAI::Private::SetPackagePrefixReadOnly(TEXT("/Game/Locked/"), true);
 	UVLMRSupportTestAsset* Asset = MakeAsset(TEXT("/Game/Locked/Preset"), TEXT("Preset"));
 	EXPECT_FALSE(VLMR::SaveAsset(Asset, Session, TEXT("config:save")));
-	FLuaSessionData::SetPackagePrefixEditable(TEXT("/Game/Locked/"), true);
+	UE::VelmireAI::Private::SetPackagePrefixReadOnly(TEXT("/Game/Locked/"), false);
 
 	ASSERT_EQ(Session.GetLogLines().Num(), 1);
 	EXPECT_TRUE(Session.GetLogLines()[0].StartsWith(TEXT("[FAIL] config:save -> "), ESearchCase::CaseSensitive));

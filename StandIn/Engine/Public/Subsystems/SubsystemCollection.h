@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Templates/Function.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/GCObject.h"
 #include "Subsystems/Subsystem.h"
@@ -9,6 +10,8 @@
 class ENGINE_API FSubsystemCollectionBase : public FGCObject
 {
 public:
+	virtual ~FSubsystemCollectionBase();
+
 	// Creates (if needed) and initializes a subsystem another one depends on; only during Initialize.
 	USubsystem* InitializeDependency(TSubclassOf<USubsystem> SubsystemClass);
 	template <typename TSubsystemClass>
@@ -24,6 +27,13 @@ public:
 	bool IsInitialized() const { return Outer != nullptr; }
 	UObject* GetOuter() const { return Outer; }
 
+	// Registers the class again and adds an instance of it to every initialized collection of its base type; a plugin
+	// calls it when it is activated.
+	static void ActivateExternalSubsystem(UClass* SubsystemClass);
+	// Unregisters the class and removes its instance from every initialized collection of its base type, deinitializing
+	// it; the instance is then garbage collected unless something else keeps it. A plugin calls it when it is deactivated.
+	static void DeactivateExternalSubsystem(UClass* SubsystemClass);
+
 	void AddReferencedObjects(FReferenceCollector& Collector) override;
 	FString GetReferencerName() const override;
 
@@ -36,6 +46,9 @@ protected:
 private:
 	USubsystem* AddAndInitializeSubsystem(UClass* SubsystemClass);
 	USubsystem* FindSubsystemOfExactClass(const UClass* SubsystemClass) const;
+	void RemoveAndDeinitializeSubsystem(USubsystem* Subsystem);
+	// Calls Visit for every initialized collection whose base type the class derives from.
+	static void ForEachCollectionOfBaseTypeOf(UClass* SubsystemClass, TFunctionRef<void(FSubsystemCollectionBase&)> Visit);
 
 	// In creation order.
 	TArray<USubsystem*> Subsystems;

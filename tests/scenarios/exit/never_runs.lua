@@ -1,0 +1,1 @@
+print("a script after os.exit ran")
