@@ -15,7 +15,7 @@
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
 #include "MoviePipelineQueueSubsystem.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/Casts.h"
 #include "UObject/GarbageCollection.h"
 #include "UObject/Package.h"
@@ -464,7 +464,7 @@ TEST_F(MovieRenderPipelineRenderTest, ReplacingTheQueueMidRenderStaysSafe)
 	EXPECT_FALSE(FPaths::FileExists(RenderDir() + TEXT("Old.sh010.0001.png")));
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 TEST_F(MovieRenderPipelineRenderTest, RenderQueueInstanceWithExecutorRendersASeparateQueue)
 {
 	UMoviePipelineExecutorJob* EditorJob = AddJob(Subsystem->GetQueue(), TEXT("Editor"));

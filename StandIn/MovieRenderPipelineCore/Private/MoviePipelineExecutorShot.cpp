@@ -128,7 +128,7 @@ STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipe
 	STANDIN_PROPERTY(OuterName, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(InnerName, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(SidecarCameras, CPF_BlueprintVisible);
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 7
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	STANDIN_PROPERTY(ConsoleVariableOverrides, CPF_Edit | CPF_BlueprintVisible);
 #endif
 	STANDIN_PROPERTY(Progress, CPF_Transient);

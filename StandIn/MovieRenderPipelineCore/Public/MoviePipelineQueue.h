@@ -5,7 +5,7 @@
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineShotConfig.h"
 #include "MovieRenderPipelineDataTypes.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/SoftObjectPath.h"
@@ -14,7 +14,7 @@
 class UMovieGraphConfig;
 class UMovieJobVariableAssignmentContainer;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 // How a job is configured: a legacy preset, a graph asset, or the basic settings of the job itself.
 UENUM(BlueprintType)
 enum class EMoviePipelineConfigMode : uint8
@@ -100,7 +100,7 @@ public:
 	UPROPERTY(BlueprintReadWrite, Category = "Movie Render Pipeline")
 	TArray<FMoviePipelineSidecarCamera> SidecarCameras;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 7
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	// Stand-in choice: offered from 5.7, the first version it was seen in.
 	UPROPERTY(BlueprintReadWrite, EditAnywhere, Category = "Movie Render Pipeline")
 	TArray<FMoviePipelineConsoleVariableEntry> ConsoleVariableOverrides;
@@ -219,7 +219,7 @@ public:
 	// Keeps one assignment container for the graph in use and none for others, on the job and on its shots.
 	void RefreshAllVariableAssignments();
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	EMoviePipelineConfigMode GetConfigMode() const { return ConfigMode; }
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
@@ -287,7 +287,7 @@ private:
 	UPROPERTY(EditAnywhere, Instanced, Category = "Variable Assignments")
 	TArray<TObjectPtr<UMovieJobVariableAssignmentContainer>> GraphVariableAssignments;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	// Stand-in choice: the basic configuration is a graph owned by the job.
 	UPROPERTY(Instanced)
 	TObjectPtr<UMovieGraphConfig> BasicConfig;

@@ -163,7 +163,7 @@ UMoviePipelineExecutorJob* UMoviePipelineEditorBlueprintLibrary::CreateJobFromSe
 	return NewJob;
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 void UMoviePipelineEditorBlueprintLibrary::EnsureJobHasDefaultSettings(UMoviePipelineExecutorJob* NewJob, bool bForce)
 #else
 void UMoviePipelineEditorBlueprintLibrary::EnsureJobHasDefaultSettings(UMoviePipelineExecutorJob* NewJob)
@@ -227,7 +227,7 @@ FString UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(UMov
 	return ResolvedPath;
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob, FText& OutError)
 {
 	OutError = FText::GetEmpty();
@@ -249,7 +249,7 @@ FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(U
 STANDIN_IMPLEMENT_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_FUNCTION(CreateJobFromSequence, TEXT("InPipelineQueue"), TEXT("InSequence"));
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	STANDIN_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"), TEXT("bForce"));
 	STANDIN_FUNCTION(TryResolveOutputDirectoryFromJob, TEXT("InJob"), TEXT("OutError"));
 #else

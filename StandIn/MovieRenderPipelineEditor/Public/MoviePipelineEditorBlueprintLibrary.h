@@ -3,7 +3,7 @@
 
 #include "CoreMinimal.h"
 #include "Kismet/BlueprintFunctionLibrary.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 
 class ULevelSequence;
 class UMoviePipelineExecutorJob;
@@ -20,7 +20,7 @@ public:
 	static UMoviePipelineExecutorJob* CreateJobFromSequence(UMoviePipelineQueue* InPipelineQueue, const ULevelSequence* InSequence);
 
 	// Adds to the job's configuration the project's default setting classes it does not have yet.
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
 	static void EnsureJobHasDefaultSettings(UMoviePipelineExecutorJob* NewJob, bool bForce = false);
 #else
@@ -37,7 +37,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
 	static FString ResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob);
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	// As ResolveOutputDirectoryFromJob, with the reason of a failure.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
 	static FString TryResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob, FText& OutError);

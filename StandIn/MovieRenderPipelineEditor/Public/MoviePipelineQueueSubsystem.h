@@ -6,7 +6,7 @@
 #include "EditorSubsystem.h"
 #include "MoviePipelineExecutor.h"
 #include "MoviePipelineQueue.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/ObjectPtr.h"
 
@@ -32,7 +32,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
 	void RenderQueueWithExecutorInstance(UMoviePipelineExecutorBase* InExecutor);
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 	// Stand-in choice: offered from 5.6, the first version these are believed to exist in.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
 	UMoviePipelineExecutorBase* RenderQueueInstanceWithExecutor(UMoviePipelineQueue* InQueue, TSubclassOf<UMoviePipelineExecutorBase> InExecutorType);
