@@ -1,5 +1,7 @@
 #include "MoviePipelineOutputSetting.h"
 
+#include "Misc/Paths.h"
+#include "MovieRenderPipelineDataTypes.h"
 #include "Sound/SoundSubmix.h"
 #include "UObject/UnrealType.h"
 
@@ -43,6 +45,15 @@ void UMoviePipelineOutputSetting::PostLoad()
 	{
 		OutputDirectory.Path = UE::MoviePipeline::DefaultOutputDirectory;
 	}
+}
+
+void UMoviePipelineOutputSetting::GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const
+{
+	TMap<FString, FString>& Arguments = InOutFormatArgs.FilenameArguments;
+	Arguments.Add(TEXT("project_dir"), FPaths::ConvertRelativePathToFull(FPaths::ProjectDir()));
+	Arguments.Add(TEXT("output_resolution"), FString::Printf(TEXT("%d_%d"), OutputResolution.X, OutputResolution.Y));
+	Arguments.Add(TEXT("output_width"), FString::FromInt(OutputResolution.X));
+	Arguments.Add(TEXT("output_height"), FString::FromInt(OutputResolution.Y));
 }
 
 STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")

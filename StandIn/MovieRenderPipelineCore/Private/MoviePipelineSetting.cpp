@@ -31,6 +31,7 @@ FText UMoviePipelineSetting::GetCategoryText() const
 void UMoviePipelineSetting::OnMoviePipelineInitialized(UMoviePipeline* InPipeline)
 {
 	CachedPipeline = InPipeline;
+	SetupForPipelineImpl(InPipeline);
 }
 
 UMoviePipeline* UMoviePipelineSetting::GetPipeline() const

@@ -6,6 +6,7 @@
 #include "Containers/Map.h"
 #include "Misc/DateTime.h"
 #include "Misc/FrameRate.h"
+#include "Misc/StringFormatArg.h"
 #include "MoviePipelineBase.h"
 #include "MoviePipelineQueue.h"
 #include "Tickable.h"
@@ -45,8 +46,8 @@ public:
 
 	// Resolves InFormatString ({token}s from the job, its configuration, the output state and InFormatOverrides; unknown
 	// tokens stay as written) into OutFinalPath, made unique with {file_dup} when existing files must not be overwritten.
-	// Stand-in choice: the overrides are plain strings; the engine takes FStringFormatNamedArguments.
-	void ResolveFilenameFormatArguments(const FString& InFormatString, const TMap<FString, FString>& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState = nullptr, const int32 InFrameNumberOffset = 0) const;
+	// Stand-in choice: a path longer than the platform's maximum path length resolves to an empty path, reported once per render.
+	void ResolveFilenameFormatArguments(const FString& InFormatString, const FStringFormatNamedArguments& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState = nullptr, const int32 InFrameNumberOffset = 0) const;
 
 	// FTickableGameObject: each tick renders one output frame.
 	virtual void Tick(float DeltaTime) override;
@@ -78,6 +79,7 @@ private:
 	void TransitionToState(EMovieRenderPipelineState InNewState);
 	void BroadcastWorkFinished();
 	void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const;
+	void RefuseOverlongPath(const FString& InPath) const;
 	UMoviePipelineOutputSetting* GetOutputSetting() const;
 
 	TWeakObjectPtr<UMoviePipelineExecutorJob> CurrentJob;
@@ -91,4 +93,5 @@ private:
 	FDateTime InitializationTime;
 	int32 InitializationVersion;
 	bool bFatalError;
+	mutable bool bRefusedOverlongPath;
 };

@@ -28,6 +28,9 @@ public:
 	// A directory saved empty comes back as the default one.
 	virtual void PostLoad() override;
 
+	// project_dir, output_resolution ("<width>_<height>"), output_width and output_height.
+	virtual void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const override;
+
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "File Output")
 	FDirectoryPath OutputDirectory;
 

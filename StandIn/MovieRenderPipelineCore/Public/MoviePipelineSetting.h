@@ -7,6 +7,7 @@
 
 class UMoviePipeline;
 class UMoviePipelineExecutorJob;
+struct FMoviePipelineFormatArgs;
 
 enum class EMoviePipelineValidationState : uint8
 {
@@ -50,6 +51,9 @@ public:
 	virtual void ValidateStateImpl();
 	virtual TArray<FText> GetValidationResults() const { return ValidationResults; }
 
+	// Adds the file name tokens ({name} -> value) this setting provides.
+	virtual void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const {}
+
 	// Called by the pipeline that is about to render with this setting.
 	void OnMoviePipelineInitialized(UMoviePipeline* InPipeline);
 	// The pipeline rendering with this setting; null outside a render.
@@ -61,6 +65,9 @@ public:
 	virtual void SetIsEnabled(bool bInEnabled) { bEnabled = bInEnabled; }
 
 protected:
+	// Prepares the setting for the render of InPipeline.
+	virtual void SetupForPipelineImpl(UMoviePipeline* InPipeline) {}
+
 	UPROPERTY()
 	bool bEnabled;
 

@@ -13,6 +13,8 @@ public:
 	UMoviePipelineImageSequenceOutputBase();
 
 protected:
+	virtual void SetupForPipelineImpl(UMoviePipeline* InPipeline) override;
+
 	// Writes one file for every render pass of the frame, named as the output setting says.
 	virtual void OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame) override;
 
@@ -21,6 +23,11 @@ protected:
 
 	// Stand-in choice: the format is kept as its file extension ("png"); the engine keeps an EImageFormat.
 	FString OutputFormatExtension;
+
+private:
+	// Whether this render already warned that the file names have no frame number, or that a file could not be written.
+	bool bWarnedMissingFrameNumber;
+	bool bReportedWriteFailure;
 };
 
 UCLASS(MinimalAPI)
