@@ -414,7 +414,7 @@ void UMoviePipeline::RefuseOverlongPath(const FString& InPath) const
 		CurrentJob.IsValid() ? *CurrentJob->JobName : TEXT(""), FPlatformMisc::GetMaxPathLength(), InPath.Len(), *InPath.Left(UE::MoviePipeline::Private::LoggedPathLength));
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_FUNCTION(Initialize, TEXT("InJob"));
 	STANDIN_FUNCTION(GetCurrentJob);

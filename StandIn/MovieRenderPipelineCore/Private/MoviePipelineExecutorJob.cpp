@@ -194,7 +194,7 @@ void UMoviePipelineExecutorJob::RefreshAllVariableAssignments()
 	}
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;

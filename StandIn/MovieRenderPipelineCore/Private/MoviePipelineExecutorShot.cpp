@@ -121,7 +121,7 @@ UMovieJobVariableAssignmentContainer* UMoviePipelineExecutorShot::GetOrCreateJob
 	return NewAssignments;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
 	STANDIN_PROPERTY(bEnabled, CPF_BlueprintVisible);

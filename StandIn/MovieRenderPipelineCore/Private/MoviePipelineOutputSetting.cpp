@@ -56,7 +56,7 @@ void UMoviePipelineOutputSetting::GetFormatArguments(FMoviePipelineFormatArgs& I
 	Arguments.Add(TEXT("output_height"), FString::FromInt(OutputResolution.Y));
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(OutputDirectory, EditableFlags);

@@ -164,7 +164,7 @@ FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(U
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_FUNCTION(CreateJobFromSequence, TEXT("InPipelineQueue"), TEXT("InSequence"));
 #if !UE_VERSION_OLDER_THAN(5, 8, 0)

@@ -121,7 +121,7 @@ bool UMoviePipelineQueueSubsystem::RefreshShotListsFromSequences()
 	return bAnyShotsChanged;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_PROPERTY(ActiveExecutor, CPF_Transient);
 	STANDIN_PROPERTY(CurrentQueue, CPF_Transient | CPF_ExportObject | CPF_InstancedReference);

@@ -143,19 +143,19 @@ FText UMoviePipelineImageSequenceOutput_JPG::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	STANDIN_PROPERTY(bWriteAlpha, CPF_Edit | CPF_BlueprintVisible);
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
