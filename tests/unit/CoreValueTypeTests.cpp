@@ -5,6 +5,7 @@
 #include "Math/Range.h"
 #include "Math/Vector2D.h"
 #include "Misc/DateTime.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Misc/FrameRate.h"
 #include "Misc/Guid.h"
 #include "Misc/QualifiedFrameTime.h"
@@ -337,7 +338,7 @@ TEST(CoreValueTypeTests, TimecodeText)
 	EXPECT_STREQ(*FTimecode(123, 2, 3, 4, false).ToString(), TEXT("123:02:03:04"));
 	EXPECT_STREQ(*FTimecode(1, 2, 3, 4, true).ToString(), TEXT("01:02:03;04"));
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	EXPECT_STREQ(*FTimecode(1, 2, 3, 4, 0.5f, false).ToString(false, true), TEXT("01:02:03:04.50"));
 	EXPECT_STREQ(*FTimecode(1, 2, 3, 4, 0.5f, false).ToString(), TEXT("01:02:03:04"));
 	EXPECT_STREQ(*FTimecode(0, 0, 0, 1, 0.999f, true).ToString(true, true), TEXT("+ 00:00:00;01.99"));

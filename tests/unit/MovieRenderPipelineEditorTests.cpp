@@ -174,12 +174,20 @@ TEST(MoviePipelineEditorBlueprintLibrary, ResolveOutputDirectoryFromJobResolvesW
 	UMoviePipelineOutputSetting* Output = Job->GetConfiguration()->FindSetting<UMoviePipelineOutputSetting>();
 	const FString ProjectDir = FPaths::ConvertRelativePathToFull(FPaths::ProjectDir());
 
-	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), ProjectDir + TEXT("/Saved/MovieRenders/"));
+	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), ProjectDir / TEXT("Saved/MovieRenders/"));
 
 	Output->OutputDirectory.Path = TEXT("/renders/{sequence_name}/{job_name}_{output_resolution}/{version}/{shot_name}/{camera_name}");
 	Output->bAutoVersion = false;
 	Output->VersionNumber = 7;
 	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), TEXT("/renders/Shot010/Nightly_1920_1080/v007/"));
+
+	// Auto-versioning shows the newest version already rendered next to the {version} folder.
+	Output->OutputDirectory.Path = TEXT("{project_dir}/Renders/{version}/{shot_name}");
+	Output->bAutoVersion = true;
+	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), ProjectDir / TEXT("Renders/v000/"));
+	IFileManager::Get().MakeDirectory(*(ProjectDir / TEXT("Renders/v003")), true);
+	IFileManager::Get().MakeDirectory(*(ProjectDir / TEXT("Renders/v012_retake")), true);
+	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), ProjectDir / TEXT("Renders/v012/"));
 
 	Output->OutputDirectory.Path = TEXT("/renders/Take_{unknown_token}/x");
 	EXPECT_EQ(UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(Job), TEXT("/renders/"));

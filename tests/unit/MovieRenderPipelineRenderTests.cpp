@@ -15,7 +15,7 @@
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
 #include "MoviePipelineQueueSubsystem.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/Casts.h"
 #include "UObject/GarbageCollection.h"
 #include "UObject/Package.h"
@@ -359,6 +359,81 @@ TEST_F(MovieRenderPipelineRenderTest, FileNameTokensResolveFromTheJobTheShotAndT
 	EXPECT_TRUE(FPaths::FileExists(RenderDir() + TEXT("Edit/") + Expected[0]));
 }
 
+TEST_F(MovieRenderPipelineRenderTest, FrameNumbersOffsetPastTheInt32RangeKeepCounting)
+{
+	UMoviePipelineOutputSetting* Output = GetOutputSetting(AddJob(Subsystem->GetQueue(), TEXT("Offset")));
+	Output->FileNameFormat = TEXT("{frame_number}_{frame_number_shot_rel}");
+	Output->FrameNumberOffset = MAX_int32;
+	RenderEditorQueue();
+	TickUntilIdle();
+
+	const TArray<FString> Expected = {
+		TEXT("2147483647_2147483647.png"), TEXT("2147483648_2147483648.png"), TEXT("2147483649_2147483647.png"), TEXT("2147483650_2147483648.png") };
+	EXPECT_EQ(RenderedFiles(), Expected);
+}
+
+TEST_F(MovieRenderPipelineRenderTest, ZeroPaddingIsClampedToTheEnginesMinimumOfOneDigit)
+{
+	UMoviePipelineOutputSetting* Output = GetOutputSetting(AddJob(Subsystem->GetQueue(), TEXT("Padding")));
+	Output->FileNameFormat = TEXT("{frame_number}-{frame_number_shot}");
+	Output->ZeroPadFrameNumbers = -2147483647;
+	RenderEditorQueue();
+	TickUntilIdle();
+
+	const TArray<FString> Expected = { TEXT("0-0.png"), TEXT("1-1.png"), TEXT("2-0.png"), TEXT("3-1.png") };
+	EXPECT_EQ(RenderedFiles(), Expected);
+}
+
+TEST_F(MovieRenderPipelineRenderTest, AnOverlongPathIsRefusedOnceAndTheQueueRendersOn)
+{
+	UMoviePipelineOutputSetting* Output = GetOutputSetting(AddJob(Subsystem->GetQueue(), TEXT("Overlong")));
+	Output->ZeroPadFrameNumbers = MAX_int32;
+	Output->FrameNumberOffset = -100000;
+	AddJob(Subsystem->GetQueue(), TEXT("Next"));
+	bool bFinishedSuccessfully = false;
+	TStrongObjectPtr<UMoviePipelineExecutorBase> Executor(RenderEditorQueue());
+	Executor->OnExecutorFinished().AddLambda([&bFinishedSuccessfully](UMoviePipelineExecutorBase*, bool bSuccess) { bFinishedSuccessfully = bSuccess; });
+	FLogCapture Log;
+
+	EXPECT_EQ(TickUntilIdle(), 11) << "both jobs render all their frames";
+	EXPECT_TRUE(bFinishedSuccessfully);
+	EXPECT_EQ(Log.CountAtOrAbove(ELogVerbosity::Warning), 1);
+	EXPECT_TRUE(Log.Contains(TEXT("Output paths of job 'Overlong' are longer than the maximum path length of 4096 characters ("), ELogVerbosity::Error));
+	const TArray<FString> Expected = { TEXT("Next.sh010.0000.png"), TEXT("Next.sh010.0001.png"), TEXT("Next.sh020.0002.png"), TEXT("Next.sh020.0003.png") };
+	EXPECT_EQ(RenderedFiles(), Expected);
+}
+
+TEST_F(MovieRenderPipelineRenderTest, NamesThatCannotBeWrittenOrLackAFrameNumberAreReportedOncePerRender)
+{
+	UMoviePipelineExecutorJob* Job = AddJob(Subsystem->GetQueue(), TEXT("Unwritable"));
+	UMoviePipelineOutputSetting* Output = GetOutputSetting(Job);
+	// Three hundred one-digit frame numbers fit the path, but not the length of one file name.
+	FString FileNameFormat;
+	for (int32 Index = 0; Index < 300; ++Index)
+	{
+		FileNameFormat += TEXT("{frame_number}");
+	}
+	Output->FileNameFormat = FileNameFormat;
+	Output->ZeroPadFrameNumbers = -2147483647;
+	{
+		FLogCapture Log;
+		RenderEditorQueue();
+		EXPECT_EQ(TickUntilIdle(), 6);
+		EXPECT_EQ(Log.CountAtOrAbove(ELogVerbosity::Warning), 1);
+		EXPECT_TRUE(Log.Contains(TEXT("Failed to write image to '"), ELogVerbosity::Error));
+		EXPECT_EQ(RenderedFiles().Num(), 0);
+	}
+
+	Job->SetConsumed(false);
+	Output->FileNameFormat = TEXT("{job_name}");
+	FLogCapture Log;
+	RenderEditorQueue();
+	EXPECT_EQ(TickUntilIdle(), 6);
+	EXPECT_EQ(Log.CountAtOrAbove(ELogVerbosity::Warning), 1);
+	EXPECT_TRUE(Log.Contains(TEXT("Frame number identifier not found. Files may be overwritten."), ELogVerbosity::Warning));
+	EXPECT_EQ(RenderedFiles(), TArray<FString>({ TEXT("Unwritable.png") }));
+}
+
 TEST_F(MovieRenderPipelineRenderTest, AutoVersioningFindsThePreviousRender)
 {
 	UMoviePipelineExecutorJob* Job = AddJob(Subsystem->GetQueue(), TEXT("Versioned"));
@@ -464,7 +539,7 @@ TEST_F(MovieRenderPipelineRenderTest, ReplacingTheQueueMidRenderStaysSafe)
 	EXPECT_FALSE(FPaths::FileExists(RenderDir() + TEXT("Old.sh010.0001.png")));
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 TEST_F(MovieRenderPipelineRenderTest, RenderQueueInstanceWithExecutorRendersASeparateQueue)
 {
 	UMoviePipelineExecutorJob* EditorJob = AddJob(Subsystem->GetQueue(), TEXT("Editor"));

@@ -2,6 +2,7 @@
 
 #include "UObject/UnrealType.h"
 #include "Misc/DateTime.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Misc/FrameNumber.h"
 #include "Misc/FrameRate.h"
 #include "Misc/Guid.h"
@@ -110,7 +111,7 @@ STANDIN_IMPLEMENT_BASE_STRUCTURE(FTimecode, "CoreUObject")
 	STANDIN_PROPERTY(Minutes, CPF_Edit);
 	STANDIN_PROPERTY(Seconds, CPF_Edit);
 	STANDIN_PROPERTY(Frames, CPF_Edit);
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	STANDIN_PROPERTY(Subframe, CPF_Edit);
 #endif
 	STANDIN_PROPERTY(bDropFrameFormat, CPF_Edit);

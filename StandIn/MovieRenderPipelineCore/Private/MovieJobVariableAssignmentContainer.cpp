@@ -5,7 +5,7 @@
 
 UMovieJobVariableAssignmentContainer::UMovieJobVariableAssignmentContainer() = default;
 
-STANDIN_IMPLEMENT_CLASS(UMovieJobVariableAssignmentContainer, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieJobVariableAssignmentContainer, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(GraphConfig, CPF_None);
 }

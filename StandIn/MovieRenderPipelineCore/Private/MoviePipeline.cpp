@@ -1,15 +1,17 @@
 #include "MoviePipeline.h"
 
 #include "HAL/FileManager.h"
-#include "HAL/PlatformProcess.h"
+#include "HAL/PlatformMisc.h"
 #include "LevelSequence.h"
 #include "Misc/Paths.h"
+#include "Misc/StringFormatArg.h"
 #include "MovieScene.h"
 #include "MoviePipelineBlueprintLibrary.h"
 #include "MoviePipelineOutputBase.h"
 #include "MoviePipelineOutputSetting.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
+#include "MoviePipelineStandInFileNaming.h"
 #include "MovieRenderPipelineCoreModule.h"
 #include "Templates/Casts.h"
 #include "UObject/UnrealType.h"
@@ -22,73 +24,27 @@ namespace UE::MoviePipeline::Private
 	// Stand-in choice: the search for a free "_(N)" name gives up here instead of looping forever.
 	constexpr int32 MaxDuplicateIndex = 100000;
 
-	// Replaces every {name} whose name is in InArguments; other braces stay as written.
-	static FString FormatNamedArguments(const FString& InFormat, const TMap<FString, FString>& InArguments)
-	{
-		FString Result;
-		int32 Index = 0;
-		while (Index < InFormat.Len())
-		{
-			const int32 Open = InFormat.Find(TEXT("{"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index);
-			const int32 Close = Open == INDEX_NONE ? INDEX_NONE : InFormat.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Open + 1);
-			if (Close == INDEX_NONE)
-			{
-				Result += InFormat.Mid(Index);
-				break;
-			}
-			Result += InFormat.Mid(Index, Open - Index);
-			const FString Name = InFormat.Mid(Open + 1, Close - Open - 1);
-			const FString* Value = InArguments.Find(Name);
-			Result += Value ? *Value : InFormat.Mid(Open, Close - Open + 1);
-			Index = Close + 1;
-		}
-		return Result;
-	}
-
-	static bool IsAlphaNumeric(TCHAR Character)
-	{
-		return (Character >= TEXT('0') && Character <= TEXT('9')) || (Character >= TEXT('a') && Character <= TEXT('z')) || (Character >= TEXT('A') && Character <= TEXT('Z'));
-	}
-
-	// The highest number of a "v<digits>" word (such as v003 in "Intro.v003.0001.png") in the path; 0 if none.
-	static int32 FindHighestVersionToken(const FString& InPath)
-	{
-		int32 Highest = 0;
-		for (int32 Index = 0; Index < InPath.Len(); ++Index)
-		{
-			const bool bWordStart = Index == 0 || !IsAlphaNumeric(InPath[Index - 1]);
-			if (InPath[Index] != TEXT('v') || !bWordStart)
-			{
-				continue;
-			}
-			int32 End = Index + 1;
-			int64 Number = 0;
-			while (End < InPath.Len() && InPath[End] >= TEXT('0') && InPath[End] <= TEXT('9') && Number < MAX_int32 / 10)
-			{
-				Number = Number * 10 + (InPath[End] - TEXT('0'));
-				++End;
-			}
-			const bool bWordEnd = End == InPath.Len() || !IsAlphaNumeric(InPath[End]);
-			if (End > Index + 1 && bWordEnd)
-			{
-				Highest = FMath::Max(Highest, int32(Number));
-			}
-		}
-		return Highest;
-	}
-
-	// Stand-in choice: a path that is still relative once resolved is taken relative to the project directory.
-	static FString MakeOutputPathAbsolute(const FString& InPath)
-	{
-		FString Path = FPaths::IsRelative(InPath) ? FPaths::ConvertRelativePathToFull(FPaths::ProjectDir(), InPath) : InPath;
-		FPaths::NormalizeFilename(Path);
-		FPaths::RemoveDuplicateSlashes(Path);
-		return Path;
-	}
+	// Stand-in choice: an over-long path is named in the log by its start only.
+	constexpr int32 LoggedPathLength = 200;
 
 	static bool CanWriteToFile(const FString& InFilename, bool bOverwriteExisting)
 	{
 		return bOverwriteExisting || IFileManager::Get().FileSize(*InFilename) == -1;
+	}
+
+	// The text FString::Format writes for the argument.
+	static FString FormatArgToString(const FStringFormatArg& InArgument)
+	{
+		FStringFormatNamedArguments Single;
+		Single.Add(TEXT("Value"), InArgument);
+		return FString::Format(TEXT("{Value}"), Single);
+	}
+
+	// The frame at the output rate that holds InTickTime, or the one after when bRoundUp and InTickTime falls inside it.
+	static int64 ToOutputFrame(FFrameNumber InTickTime, FFrameRate InTickResolution, FFrameRate InOutputRate, bool bRoundUp)
+	{
+		const FFrameTime OutputTime = FFrameRate::TransformTime(FFrameTime(InTickTime), InTickResolution, InOutputRate);
+		return int64(OutputTime.GetFrame().Value) + (bRoundUp && OutputTime.GetSubFrame() > 0.f ? 1 : 0);
 	}
 }
 
@@ -99,6 +55,7 @@ UMoviePipeline::UMoviePipeline()
 	, TotalOutputFrames(0)
 	, InitializationVersion(1)
 	, bFatalError(false)
+	, bRefusedOverlongPath(false)
 {
 }
 
@@ -148,6 +105,7 @@ void UMoviePipeline::Initialize(UMoviePipelineExecutorJob* InJob)
 // Stand-in choice: the custom playback range, handle frames and the output frame step of the output setting are not applied.
 bool UMoviePipeline::GatherActiveShots()
 {
+	using namespace UE::MoviePipeline::Private;
 	const FSoftObjectPath SequencePath = CurrentJob->Sequence;
 	ULevelSequence* Sequence = Cast<ULevelSequence>(SequencePath.TryLoad());
 	UMovieScene* MovieScene = Sequence ? Sequence->GetMovieScene() : nullptr;
@@ -174,22 +132,23 @@ bool UMoviePipeline::GatherActiveShots()
 		{
 			continue;
 		}
-		const int32 StartFrame = FFrameRate::TransformTime(FFrameTime(Range.GetLowerBoundValue()), TickResolution, EffectiveFrameRate).FloorToFrame().Value;
-		const int32 EndFrame = FFrameRate::TransformTime(FFrameTime(Range.GetUpperBoundValue()), TickResolution, EffectiveFrameRate).CeilToFrame().Value;
-		if (EndFrame <= StartFrame)
+		const int64 StartFrame = ToOutputFrame(Range.GetLowerBoundValue(), TickResolution, EffectiveFrameRate, false);
+		const int64 EndFrame = ToOutputFrame(Range.GetUpperBoundValue(), TickResolution, EffectiveFrameRate, true);
+		// Stand-in choice: a render counts its output frames in 32 bits, as the engine numbers them; frames past that are not rendered.
+		const int64 NumFrames = FMath::Min(EndFrame - StartFrame, int64(MAX_int32 - TotalOutputFrames));
+		if (NumFrames <= 0)
 		{
 			continue;
 		}
 		Shot->SetStatusProgress(0.0f);
-		ActiveShots.Add({ Shot, StartFrame, EndFrame - StartFrame });
-		TotalOutputFrames += EndFrame - StartFrame;
+		ActiveShots.Add({ Shot, int32(StartFrame), int32(NumFrames) });
+		TotalOutputFrames += int32(NumFrames);
 	}
 	return true;
 }
 
 int32 UMoviePipeline::ResolveVersionNumber() const
 {
-	using namespace UE::MoviePipeline::Private;
 	const UMoviePipelineOutputSetting* OutputSetting = GetOutputSetting();
 	if (!OutputSetting)
 	{
@@ -199,31 +158,13 @@ int32 UMoviePipeline::ResolveVersionNumber() const
 	{
 		return OutputSetting->VersionNumber;
 	}
-	// Stand-in choice: the files below the resolved output directory (above its first folder naming the version) are
-	// searched for "v<digits>" words, and the render takes the version after the highest one.
+	// Stand-in choice: one version for the whole render, from the output path with the job's tokens resolved (shot and
+	// frame tokens stay unresolved); the engine resolves it per shot. A path without versions gives v001.
 	FMoviePipelineFormatArgs FormatArgs;
 	GetFormatArguments(FormatArgs);
-	FormatArgs.FilenameArguments.Add(TEXT("version"), TEXT("{version}"));
-	FString Directory = FormatNamedArguments(OutputSetting->OutputDirectory.Path, FormatArgs.FilenameArguments);
-	const int32 VersionTokenIndex = Directory.Find(TEXT("{version}"));
-	if (VersionTokenIndex != INDEX_NONE)
-	{
-		Directory = FPaths::GetPath(Directory.Left(VersionTokenIndex));
-	}
-	Directory = MakeOutputPathAbsolute(Directory);
-	FPaths::NormalizeDirectoryName(Directory);
-
-	int32 HighestVersion = 0;
-	TArray<FString> FoundFiles;
-	if (!Directory.IsEmpty() && FPaths::DirectoryExists(Directory))
-	{
-		IFileManager::Get().FindFilesRecursive(FoundFiles, *Directory, TEXT("*"), true, false);
-	}
-	for (const FString& File : FoundFiles)
-	{
-		HighestVersion = FMath::Max(HighestVersion, FindHighestVersionToken(File.RightChop(Directory.Len())));
-	}
-	return HighestVersion + 1;
+	const FString OutputPath = FPaths::Combine(OutputSetting->OutputDirectory.Path, OutputSetting->FileNameFormat);
+	const int32 HighestVersion = UE::MoviePipeline::StandIn::FindHighestExistingVersion(OutputPath, FormatArgs.FilenameArguments);
+	return FMath::Max(HighestVersion, 0) + 1;
 }
 
 const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& UMoviePipeline::GetActiveShotList() const
@@ -406,69 +347,74 @@ void UMoviePipeline::ShutdownImpl(bool bIsError)
 	FinishRender();
 }
 
-// Stand-in choice: the tokens the engine's primary configuration and output setting add, gathered in one place.
 void UMoviePipeline::GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const
 {
-	TMap<FString, FString>& Arguments = InOutFormatArgs.FilenameArguments;
-	if (const UMoviePipelineExecutorJob* Job = CurrentJob.Get())
+	const UMoviePipelineExecutorJob* Job = CurrentJob.Get();
+	if (!Job)
 	{
-		Arguments.Add(TEXT("level_name"), Job->Map.GetAssetName());
-		Arguments.Add(TEXT("sequence_name"), Job->Sequence.GetAssetName());
-		Arguments.Add(TEXT("job_name"), Job->JobName);
-		Arguments.Add(TEXT("job_author"), Job->Author.Len() > 0 ? Job->Author : FString(FPlatformProcess::UserName(false)));
+		return;
 	}
-	Arguments.Add(TEXT("frame_rate"), FString::SanitizeFloat(EffectiveFrameRate.AsDecimal()));
-	Arguments.Add(TEXT("date"), InitializationTime.ToString(TEXT("%Y.%m.%d")));
-	Arguments.Add(TEXT("time"), InitializationTime.ToString(TEXT("%H.%M.%S")));
-	Arguments.Add(TEXT("year"), InitializationTime.ToString(TEXT("%Y")));
-	Arguments.Add(TEXT("month"), InitializationTime.ToString(TEXT("%m")));
-	Arguments.Add(TEXT("day"), InitializationTime.ToString(TEXT("%d")));
-	Arguments.Add(TEXT("version"), FString::Printf(TEXT("v%0*d"), 3, InitializationVersion));
-	if (const UMoviePipelineOutputSetting* OutputSetting = GetOutputSetting())
+	UE::MoviePipeline::StandIn::AddJobFormatArguments(InOutFormatArgs.FilenameArguments, *Job, EffectiveFrameRate, InitializationTime, InitializationVersion);
+	for (const UMoviePipelineSetting* Setting : Job->GetConfiguration()->GetAllSettings())
 	{
-		Arguments.Add(TEXT("project_dir"), FPaths::ConvertRelativePathToFull(FPaths::ProjectDir()));
-		Arguments.Add(TEXT("output_resolution"), FString::Printf(TEXT("%d_%d"), OutputSetting->OutputResolution.X, OutputSetting->OutputResolution.Y));
-		Arguments.Add(TEXT("output_width"), FString::FromInt(OutputSetting->OutputResolution.X));
-		Arguments.Add(TEXT("output_height"), FString::FromInt(OutputSetting->OutputResolution.Y));
+		Setting->GetFormatArguments(InOutFormatArgs);
 	}
 }
 
-void UMoviePipeline::ResolveFilenameFormatArguments(const FString& InFormatString, const TMap<FString, FString>& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState, const int32 InFrameNumberOffset) const
+void UMoviePipeline::ResolveFilenameFormatArguments(const FString& InFormatString, const FStringFormatNamedArguments& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState, const int32 InFrameNumberOffset) const
 {
 	using namespace UE::MoviePipeline::Private;
+	using namespace UE::MoviePipeline::StandIn;
 	const UMoviePipelineOutputSetting* OutputSetting = GetOutputSetting();
 	OutFinalFormatArgs = FMoviePipelineFormatArgs();
 	OutFinalFormatArgs.InJob = CurrentJob.Get();
 	GetFormatArguments(OutFinalFormatArgs);
 	if (InOutputState && OutputSetting)
 	{
-		InOutputState->GetFilenameFormatArguments(OutFinalFormatArgs, OutputSetting->ZeroPadFrameNumbers, OutputSetting->FrameNumberOffset + InFrameNumberOffset, false);
+		const int64 FrameNumberOffset = int64(OutputSetting->FrameNumberOffset) + InFrameNumberOffset;
+		InOutputState->GetFilenameFormatArguments(OutFinalFormatArgs, OutputSetting->ZeroPadFrameNumbers, int32(FMath::Clamp<int64>(FrameNumberOffset, MIN_int32, MAX_int32)), false);
 	}
 	// Duplicate numbers stay empty unless a file in the way must not be overwritten.
 	OutFinalFormatArgs.FilenameArguments.Add(TEXT("file_dup"), FString());
-	for (const TPair<FString, FString>& Override : InFormatOverrides)
+	for (const TPair<FString, FStringFormatArg>& Override : InFormatOverrides)
 	{
-		OutFinalFormatArgs.FilenameArguments.Add(Override.Key, Override.Value);
+		OutFinalFormatArgs.FilenameArguments.Add(Override.Key, FormatArgToString(Override.Value));
 	}
 
-	const FString Extension = FormatNamedArguments(TEXT(".{ext}"), OutFinalFormatArgs.FilenameArguments);
+	const FString Extension = FormatArguments(TEXT(".{ext}"), OutFinalFormatArgs.FilenameArguments);
 	auto ResolvePath = [&InFormatString, &OutFinalFormatArgs, &Extension]()
 	{
-		FString BaseFilename = FormatNamedArguments(InFormatString, OutFinalFormatArgs.FilenameArguments);
+		FString BaseFilename = FormatArguments(InFormatString, OutFinalFormatArgs.FilenameArguments);
 		BaseFilename.RemoveFromEnd(TEXT("."));
 		return MakeOutputPathAbsolute(BaseFilename + Extension);
 	};
 
 	const bool bOverwriteExisting = !OutputSetting || OutputSetting->bOverrideExistingOutput;
 	OutFinalPath = ResolvePath();
-	for (int32 DuplicateIndex = 2; !CanWriteToFile(OutFinalPath, bOverwriteExisting) && DuplicateIndex <= MaxDuplicateIndex; ++DuplicateIndex)
+	for (int32 DuplicateIndex = 2; FitsMaxPathLength(OutFinalPath) && !CanWriteToFile(OutFinalPath, bOverwriteExisting) && DuplicateIndex <= MaxDuplicateIndex; ++DuplicateIndex)
 	{
 		OutFinalFormatArgs.FilenameArguments.Add(TEXT("file_dup"), FString::Printf(TEXT("_(%d)"), DuplicateIndex));
 		OutFinalPath = ResolvePath();
 	}
+	if (!FitsMaxPathLength(OutFinalPath))
+	{
+		RefuseOverlongPath(OutFinalPath);
+		OutFinalPath.Reset();
+	}
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
+void UMoviePipeline::RefuseOverlongPath(const FString& InPath) const
+{
+	if (bRefusedOverlongPath)
+	{
+		return;
+	}
+	bRefusedOverlongPath = true;
+	UE_LOG(LogMovieRenderPipeline, Error, TEXT("Output paths of job '%s' are longer than the maximum path length of %d characters (%d characters: '%s...'), frames with such a path are not written."),
+		CurrentJob.IsValid() ? *CurrentJob->JobName : TEXT(""), FPlatformMisc::GetMaxPathLength(), InPath.Len(), *InPath.Left(UE::MoviePipeline::Private::LoggedPathLength));
+}
+
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipeline, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_FUNCTION(Initialize, TEXT("InJob"));
 	STANDIN_FUNCTION(GetCurrentJob);

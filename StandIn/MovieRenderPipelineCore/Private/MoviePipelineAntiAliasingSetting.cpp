@@ -21,7 +21,7 @@ FText UMoviePipelineAntiAliasingSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineAntiAliasingSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineAntiAliasingSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(SpatialSampleCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));

@@ -15,7 +15,7 @@ void UMoviePipelineBase::RequestShutdownImpl(bool bIsError)
 	bShutdownRequested = true;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_FUNCTION(RequestShutdown, TEXT("bIsError"));
 	STANDIN_FUNCTION(Shutdown, TEXT("bIsError"));

@@ -182,7 +182,7 @@ void UMoviePipelineBlueprintLibrary::GetOverallOutputFrames(const UMoviePipeline
 	OutTotalCount = InMoviePipeline ? InMoviePipeline->TotalOutputFrames : 0;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineBlueprintLibrary, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineBlueprintLibrary, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_FUNCTION(UpdateJobShotListFromSequence, TEXT("InSequence"), TEXT("InJob"), TEXT("bShotsChanged"));
 	STANDIN_FUNCTION(GetCompletionPercentage, TEXT("InPipeline"));

@@ -17,7 +17,7 @@ FText UMoviePipelineCameraSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineCameraSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineCameraSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(ShutterTiming, EditableFlags);

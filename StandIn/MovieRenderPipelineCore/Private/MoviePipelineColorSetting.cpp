@@ -14,7 +14,7 @@ FText UMoviePipelineColorSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineColorSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineColorSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(bDisableToneCurve, CPF_Edit | CPF_BlueprintVisible | CPF_AdvancedDisplay);
 }

@@ -25,7 +25,7 @@ FText UMoviePipelineCommandLineEncoder::GetCategoryText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineCommandLineEncoder, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineCommandLineEncoder, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(FileNameFormatOverride, EditableFlags);

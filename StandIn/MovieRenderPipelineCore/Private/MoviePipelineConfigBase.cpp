@@ -142,7 +142,7 @@ TArray<UMoviePipelineSetting*> UMoviePipelineConfigBase::GetUserSettings() const
 	return UserSettings;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineConfigBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineConfigBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(DisplayName, CPF_None);
 	STANDIN_PROPERTY(Settings, CPF_Edit | CPF_EditConst | CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);

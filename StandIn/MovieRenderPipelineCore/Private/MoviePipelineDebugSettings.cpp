@@ -17,7 +17,7 @@ FText UMoviePipelineDebugSettings::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDebugSettings, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDebugSettings, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(bWriteAllSamples, EditableFlags);

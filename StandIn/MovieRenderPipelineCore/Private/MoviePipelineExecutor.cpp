@@ -29,7 +29,7 @@ void UMoviePipelineExecutorBase::OnExecutorErroredImpl(UMoviePipeline* ErroredPi
 	OnExecutorErroredDelegateNative.Broadcast(this, ErroredPipeline, bFatal, ErrorReason);
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(UserData, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(TargetPipelineClass, CPF_Transient);

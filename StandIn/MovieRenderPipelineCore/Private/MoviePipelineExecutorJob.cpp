@@ -9,7 +9,7 @@
 #include "UObject/UnrealType.h"
 #include "UObject/UObjectGlobals.h"
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 STANDIN_IMPLEMENT_ENUM(EMoviePipelineConfigMode, "MovieRenderPipelineCore", Preset, Graph, Basic)
 #endif
 
@@ -17,7 +17,7 @@ UMoviePipelineExecutorJob::UMoviePipelineExecutorJob()
 	: StatusProgress(0.0f)
 	, bIsConsumed(false)
 	, bEnabled(true)
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	, ConfigMode(EMoviePipelineConfigMode::Preset)
 	, bHasInitializedLegacyPresetDefaults(false)
 #endif
@@ -38,7 +38,7 @@ void UMoviePipelineExecutorJob::PostEditChangeProperty(FPropertyChangedEvent& Pr
 
 void UMoviePipelineExecutorJob::SetIsEnabled_Implementation(const bool bInEnabled)
 {
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	Modify();
 #endif
 	bEnabled = bInEnabled;
@@ -70,7 +70,7 @@ void UMoviePipelineExecutorJob::SetConfiguration(UMoviePipelinePrimaryConfig* In
 	}
 	Configuration->CopyFrom(InPreset);
 	PresetOrigin.Reset();
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	ConfigMode = EMoviePipelineConfigMode::Preset;
 #endif
 }
@@ -98,7 +98,7 @@ void UMoviePipelineExecutorJob::SetGraphPreset(const UMovieGraphConfig* InGraphP
 	{
 		RefreshAllVariableAssignments();
 	}
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	// Stand-in choice: a graph switches the job to graph mode, clearing it returns the job to its preset.
 	ConfigMode = InGraphPreset ? EMoviePipelineConfigMode::Graph : EMoviePipelineConfigMode::Preset;
 #endif
@@ -106,14 +106,14 @@ void UMoviePipelineExecutorJob::SetGraphPreset(const UMovieGraphConfig* InGraphP
 
 bool UMoviePipelineExecutorJob::IsUsingGraphConfiguration() const
 {
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	return ConfigMode == EMoviePipelineConfigMode::Graph;
 #else
 	return !GraphPreset.IsNull();
 #endif
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 void UMoviePipelineExecutorJob::SetConfigMode(const EMoviePipelineConfigMode InConfigMode)
 {
 	Modify();
@@ -194,7 +194,7 @@ void UMoviePipelineExecutorJob::RefreshAllVariableAssignments()
 	}
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
@@ -214,7 +214,7 @@ STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipel
 	STANDIN_PROPERTY(bEnabled, CPF_None);
 	STANDIN_PROPERTY(GraphPreset, CPF_None);
 	STANDIN_PROPERTY(GraphVariableAssignments, CPF_Edit | InstancedArrayFlags);
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	STANDIN_PROPERTY(BasicConfig, CPF_ExportObject | CPF_InstancedReference);
 	STANDIN_PROPERTY(ConfigMode, CPF_None);
 	STANDIN_PROPERTY(bHasInitializedLegacyPresetDefaults, CPF_None);
@@ -238,7 +238,7 @@ STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorJob, CLASS_None, "MovieRenderPipel
 	STANDIN_FUNCTION(IsUsingGraphConfiguration);
 	STANDIN_FUNCTION(SetSequence, TEXT("InSequence"));
 	STANDIN_FUNCTION(GetOrCreateJobVariableAssignmentsForGraph, TEXT("InGraph"));
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	STANDIN_FUNCTION(GetConfigMode);
 	STANDIN_FUNCTION(SetConfigMode, TEXT("InConfigMode"));
 	STANDIN_FUNCTION(IsUsingBasicConfiguration);

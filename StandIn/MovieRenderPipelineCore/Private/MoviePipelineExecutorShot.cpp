@@ -121,14 +121,14 @@ UMovieJobVariableAssignmentContainer* UMoviePipelineExecutorShot::GetOrCreateJob
 	return NewAssignments;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineExecutorShot, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags InstancedArrayFlags = CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference;
 	STANDIN_PROPERTY(bEnabled, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(OuterName, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(InnerName, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(SidecarCameras, CPF_BlueprintVisible);
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 7
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	STANDIN_PROPERTY(ConsoleVariableOverrides, CPF_Edit | CPF_BlueprintVisible);
 #endif
 	STANDIN_PROPERTY(Progress, CPF_Transient);

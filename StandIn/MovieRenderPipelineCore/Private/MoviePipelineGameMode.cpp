@@ -4,6 +4,6 @@
 
 AMoviePipelineGameMode::AMoviePipelineGameMode() = default;
 
-STANDIN_IMPLEMENT_CLASS(AMoviePipelineGameMode, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(AMoviePipelineGameMode, CLASS_None, "MovieRenderPipelineCore")
 {
 }

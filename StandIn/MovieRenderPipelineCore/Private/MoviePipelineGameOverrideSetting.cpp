@@ -37,7 +37,7 @@ FText UMoviePipelineGameOverrideSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineGameOverrideSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineGameOverrideSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	FProperty* DeprecatedGameMode = STANDIN_PROPERTY(GameModeOverride, CPF_BlueprintVisible);

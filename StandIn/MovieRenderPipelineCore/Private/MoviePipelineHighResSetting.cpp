@@ -19,7 +19,7 @@ FText UMoviePipelineHighResSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineHighResSetting, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineHighResSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(TileCount, EditableFlags)->SetMetaData(TEXT("ClampMin"), TEXT("1"));

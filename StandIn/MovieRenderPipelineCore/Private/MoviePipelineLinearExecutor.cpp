@@ -132,7 +132,7 @@ float UMoviePipelineLinearExecutorBase::GetCompletionPercentageFromActivePipelin
 
 #undef LOCTEXT_NAMESPACE
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineLinearExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineLinearExecutorBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(Queue, CPF_Transient);
 	STANDIN_PROPERTY(ActiveMoviePipeline, CPF_Transient);

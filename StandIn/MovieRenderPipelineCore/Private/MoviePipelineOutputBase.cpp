@@ -11,6 +11,6 @@ FText UMoviePipelineOutputBase::GetCategoryText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

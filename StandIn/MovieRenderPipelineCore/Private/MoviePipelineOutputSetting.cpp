@@ -1,5 +1,7 @@
 #include "MoviePipelineOutputSetting.h"
 
+#include "Misc/Paths.h"
+#include "MovieRenderPipelineDataTypes.h"
 #include "Sound/SoundSubmix.h"
 #include "UObject/UnrealType.h"
 
@@ -45,7 +47,16 @@ void UMoviePipelineOutputSetting::PostLoad()
 	}
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
+void UMoviePipelineOutputSetting::GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const
+{
+	TMap<FString, FString>& Arguments = InOutFormatArgs.FilenameArguments;
+	Arguments.Add(TEXT("project_dir"), FPaths::ConvertRelativePathToFull(FPaths::ProjectDir()));
+	Arguments.Add(TEXT("output_resolution"), FString::Printf(TEXT("%d_%d"), OutputResolution.X, OutputResolution.Y));
+	Arguments.Add(TEXT("output_width"), FString::FromInt(OutputResolution.X));
+	Arguments.Add(TEXT("output_height"), FString::FromInt(OutputResolution.Y));
+}
+
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineOutputSetting, CLASS_None, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(OutputDirectory, EditableFlags);

@@ -149,7 +149,7 @@ void UMoviePipelinePrimaryConfig::OnSettingRemoved(UMoviePipelineSetting* InSett
 	}
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelinePrimaryConfig, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelinePrimaryConfig, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(PerShotConfigMapping, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
 	STANDIN_PROPERTY(TransientSettings, CPF_Transient);

@@ -177,7 +177,7 @@ void UMoviePipelineQueue::OnAnyObjectModified(UObject* InModifiedObject)
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(Jobs, CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference);
 	STANDIN_PROPERTY(QueueOrigin, CPF_None);

@@ -11,6 +11,6 @@ FText UMoviePipelineRenderPass::GetCategoryText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineRenderPass, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineRenderPass, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

@@ -31,6 +31,7 @@ FText UMoviePipelineSetting::GetCategoryText() const
 void UMoviePipelineSetting::OnMoviePipelineInitialized(UMoviePipeline* InPipeline)
 {
 	CachedPipeline = InPipeline;
+	SetupForPipelineImpl(InPipeline);
 }
 
 UMoviePipeline* UMoviePipelineSetting::GetPipeline() const
@@ -44,7 +45,7 @@ void UMoviePipelineSetting::ValidateStateImpl()
 	ValidationState = EMoviePipelineValidationState::Valid;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineSetting, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineSetting, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(bEnabled, CPF_None);
 	STANDIN_FUNCTION(IsEnabled);

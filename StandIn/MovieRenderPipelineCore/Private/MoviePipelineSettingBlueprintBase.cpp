@@ -11,7 +11,7 @@ UMoviePipelineSetting_BlueprintBase::UMoviePipelineSetting_BlueprintBase()
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineSetting_BlueprintBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineSetting_BlueprintBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	constexpr EPropertyFlags DefaultsFlags = CPF_Edit | CPF_DisableEditOnInstance | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(CategoryText, DefaultsFlags);

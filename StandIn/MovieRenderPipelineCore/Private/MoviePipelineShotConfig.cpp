@@ -9,6 +9,6 @@ bool UMoviePipelineShotConfig::CanSettingBeAdded(const UMoviePipelineSetting* In
 	return InSetting && InSetting->IsValidOnShots();
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineShotConfig, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineShotConfig, CLASS_None, "MovieRenderPipelineCore")
 {
 }

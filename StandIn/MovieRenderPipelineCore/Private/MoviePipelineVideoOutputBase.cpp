@@ -4,6 +4,6 @@
 
 UMoviePipelineVideoOutputBase::UMoviePipelineVideoOutputBase() = default;
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineVideoOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineVideoOutputBase, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

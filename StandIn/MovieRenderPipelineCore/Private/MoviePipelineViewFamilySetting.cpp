@@ -4,6 +4,6 @@
 
 UMoviePipelineViewFamilySetting::UMoviePipelineViewFamilySetting() = default;
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineViewFamilySetting, CLASS_Abstract, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineViewFamilySetting, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 }

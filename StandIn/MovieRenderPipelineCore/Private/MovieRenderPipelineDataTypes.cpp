@@ -1,6 +1,7 @@
 #include "MovieRenderPipelineDataTypes.h"
 
 #include "Containers/Map.h"
+#include "MoviePipelineStandInFileNaming.h"
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
@@ -29,18 +30,20 @@ STANDIN_IMPLEMENT_STRUCT(FMoviePipelineSidecarCamera, "MovieRenderPipelineCore")
 
 FString UE::MoviePipeline::GetPaddingFormatString(int32 InZeroPadCount, const int32 InFrameNumber)
 {
-	return FString::Printf(TEXT("%0*d"), InZeroPadCount + (InFrameNumber < 0 ? 1 : 0), InFrameNumber);
+	return UE::MoviePipeline::StandIn::PadFrameNumber(InFrameNumber, InZeroPadCount);
 }
 
 void FMoviePipelineFrameOutputState::GetFilenameFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs, const int32 InZeroPadCount, const int32 InFrameNumberOffset, const bool bForceRelFrameNumbers) const
 {
-	using UE::MoviePipeline::GetPaddingFormatString;
-	const int32 RootFrame = (bForceRelFrameNumbers ? OutputFrameNumber : SourceFrameNumber) + InFrameNumberOffset;
-	const int32 ShotFrame = (bForceRelFrameNumbers ? ShotOutputFrameNumber : CurrentShotSourceFrameNumber) + InFrameNumberOffset;
-	const FString FrameNumber = GetPaddingFormatString(InZeroPadCount, RootFrame);
-	const FString FrameNumberShot = GetPaddingFormatString(InZeroPadCount, ShotFrame);
-	const FString FrameNumberRel = GetPaddingFormatString(InZeroPadCount, OutputFrameNumber + InFrameNumberOffset);
-	const FString FrameNumberShotRel = GetPaddingFormatString(InZeroPadCount, ShotOutputFrameNumber + InFrameNumberOffset);
+	// Stand-in choice: frame numbers are offset in 64 bits, so that no offset can overflow them.
+	auto PadOffsetFrame = [InZeroPadCount, InFrameNumberOffset](int32 InFrame)
+	{
+		return UE::MoviePipeline::StandIn::PadFrameNumber(int64(InFrame) + InFrameNumberOffset, InZeroPadCount);
+	};
+	const FString FrameNumber = PadOffsetFrame(bForceRelFrameNumbers ? OutputFrameNumber : SourceFrameNumber);
+	const FString FrameNumberShot = PadOffsetFrame(bForceRelFrameNumbers ? ShotOutputFrameNumber : CurrentShotSourceFrameNumber);
+	const FString FrameNumberRel = PadOffsetFrame(OutputFrameNumber);
+	const FString FrameNumberShotRel = PadOffsetFrame(ShotOutputFrameNumber);
 
 	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number"), FrameNumber);
 	InOutFormatArgs.FilenameArguments.Add(TEXT("frame_number_shot"), FrameNumberShot);

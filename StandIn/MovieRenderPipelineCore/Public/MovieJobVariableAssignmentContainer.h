@@ -5,16 +5,18 @@
 #include "UObject/Object.h"
 #include "UObject/SoftObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMovieGraphConfig;
 
 // Stand-in choice: only the graph the assignments belong to; the values of the variables come with the graph work.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMovieJobVariableAssignmentContainer : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieJobVariableAssignmentContainer : public UObject
 {
-	STANDIN_CLASS_BODY(UMovieJobVariableAssignmentContainer, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMovieJobVariableAssignmentContainer, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMovieJobVariableAssignmentContainer();
+	UE_API UMovieJobVariableAssignmentContainer();
 
 	void SetGraphConfig(const TSoftObjectPtr<UMovieGraphConfig>& InGraphConfig) { GraphConfig = InGraphConfig; }
 	TSoftObjectPtr<UMovieGraphConfig> GetGraphConfig() const { return GraphConfig; }
@@ -23,3 +25,5 @@ private:
 	UPROPERTY()
 	TSoftObjectPtr<UMovieGraphConfig> GraphConfig;
 };
+
+#undef UE_API

@@ -6,26 +6,29 @@
 #include "Containers/Map.h"
 #include "Misc/DateTime.h"
 #include "Misc/FrameRate.h"
+#include "Misc/StringFormatArg.h"
 #include "MoviePipelineBase.h"
 #include "MoviePipelineQueue.h"
 #include "Tickable.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMoviePipelineOutputSetting;
 class UMoviePipelinePrimaryConfig;
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipeline : public UMoviePipelineBase, public FTickableGameObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipeline : public UMoviePipelineBase, public FTickableGameObject
 {
-	STANDIN_CLASS_BODY(UMoviePipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipeline();
+	UE_API UMoviePipeline();
 
 	// Prepares the render of the job: its shot list, frame ranges and output version. Rendering starts at the next tick.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void Initialize(UMoviePipelineExecutorJob* InJob);
+	UE_API void Initialize(UMoviePipelineExecutorJob* InJob);
 
 	// Stand-in choice: the job is held weakly, so a job deleted and collected mid-render makes the render fail.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
@@ -35,26 +38,26 @@ public:
 	int32 GetCurrentShotIndex() const { return FMath::Min(CurrentShotIndex, FMath::Max(ActiveShots.Num() - 1, 0)); }
 
 	// The enabled shots of the job, in render order; shots collected since Initialize are left out.
-	const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& GetActiveShotList() const;
+	UE_API const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& GetActiveShotList() const;
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	UMoviePipelinePrimaryConfig* GetPipelinePrimaryConfig() const;
+	UE_API UMoviePipelinePrimaryConfig* GetPipelinePrimaryConfig() const;
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	FDateTime GetInitializationTime() const { return InitializationTime; }
 
 	// Resolves InFormatString ({token}s from the job, its configuration, the output state and InFormatOverrides; unknown
 	// tokens stay as written) into OutFinalPath, made unique with {file_dup} when existing files must not be overwritten.
-	// Stand-in choice: the overrides are plain strings; the engine takes FStringFormatNamedArguments.
-	void ResolveFilenameFormatArguments(const FString& InFormatString, const TMap<FString, FString>& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState = nullptr, const int32 InFrameNumberOffset = 0) const;
+	// Stand-in choice: a path longer than the platform's maximum path length resolves to an empty path, reported once per render.
+	UE_API void ResolveFilenameFormatArguments(const FString& InFormatString, const FStringFormatNamedArguments& InFormatOverrides, FString& OutFinalPath, FMoviePipelineFormatArgs& OutFinalFormatArgs, const FMoviePipelineFrameOutputState* InOutputState = nullptr, const int32 InFrameNumberOffset = 0) const;
 
 	// FTickableGameObject: each tick renders one output frame.
-	virtual void Tick(float DeltaTime) override;
-	virtual bool IsTickable() const override;
+	UE_API virtual void Tick(float DeltaTime) override;
+	UE_API virtual bool IsTickable() const override;
 	virtual bool IsTickableInEditor() const override { return true; }
 
 protected:
-	virtual void ShutdownImpl(bool bIsError) override;
+	UE_API virtual void ShutdownImpl(bool bIsError) override;
 
 private:
 	friend class UMoviePipelineBlueprintLibrary;
@@ -78,6 +81,7 @@ private:
 	void TransitionToState(EMovieRenderPipelineState InNewState);
 	void BroadcastWorkFinished();
 	void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const;
+	void RefuseOverlongPath(const FString& InPath) const;
 	UMoviePipelineOutputSetting* GetOutputSetting() const;
 
 	TWeakObjectPtr<UMoviePipelineExecutorJob> CurrentJob;
@@ -91,4 +95,7 @@ private:
 	FDateTime InitializationTime;
 	int32 InitializationVersion;
 	bool bFatalError;
+	mutable bool bRefusedOverlongPath;
 };
+
+#undef UE_API

@@ -6,16 +6,18 @@
 #include "MoviePipelineSetting.h"
 #include "SceneUtils.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineAntiAliasingSetting : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineAntiAliasingSetting : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineAntiAliasingSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineAntiAliasingSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineAntiAliasingSetting();
+	UE_API UMoviePipelineAntiAliasingSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 	virtual bool IsValidOnShots() const override { return true; }
 	virtual bool IsValidOnPrimary() const override { return true; }
@@ -44,3 +46,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Render Settings")
 	bool bRenderWarmUpFrames;
 };
+
+#undef UE_API

@@ -6,15 +6,17 @@
 #include "MovieRenderPipelineDataTypes.h"
 #include "UObject/Object.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 DECLARE_MULTICAST_DELEGATE_OneParam(FMoviePipelineWorkFinishedNative, FMoviePipelineOutputData);
 
 UCLASS(MinimalAPI, BlueprintType, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineBase : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineBase : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineBase();
+	UE_API UMoviePipelineBase();
 
 	// Asks the pipeline to stop at its next opportunity; work already done is still written. Does not block.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
@@ -36,7 +38,7 @@ public:
 	FMoviePipelineWorkFinishedNative& OnMoviePipelineShotWorkFinished() { return OnMoviePipelineShotWorkFinishedDelegateNative; }
 
 protected:
-	virtual void RequestShutdownImpl(bool bIsError);
+	UE_API virtual void RequestShutdownImpl(bool bIsError);
 	virtual void ShutdownImpl(bool bIsError) PURE_VIRTUAL(UMoviePipelineBase::ShutdownImpl, );
 	virtual bool IsShutdownRequestedImpl() const { return bShutdownRequested; }
 	virtual EMovieRenderPipelineState GetPipelineStateImpl() const { return PipelineState; }
@@ -50,3 +52,5 @@ private:
 	FMoviePipelineWorkFinishedNative OnMoviePipelineWorkFinishedDelegateNative;
 	FMoviePipelineWorkFinishedNative OnMoviePipelineShotWorkFinishedDelegateNative;
 };
+
+#undef UE_API

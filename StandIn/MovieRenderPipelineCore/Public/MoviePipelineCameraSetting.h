@@ -5,16 +5,18 @@
 #include "MoviePipelineSetting.h"
 #include "MovieRenderPipelineDataTypes.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineCameraSetting : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineCameraSetting : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineCameraSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineCameraSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineCameraSetting();
+	UE_API UMoviePipelineCameraSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 	virtual bool IsValidOnShots() const override { return true; }
 	virtual bool IsValidOnPrimary() const override { return true; }
@@ -32,3 +34,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Camera Settings")
 	bool bRenderAllCameras;
 };
+
+#undef UE_API

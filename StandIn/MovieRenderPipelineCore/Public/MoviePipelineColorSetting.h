@@ -4,17 +4,19 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 // Stand-in choice: the OpenColorIO display configuration is left out (the stand-in has no OpenColorIO plugin).
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineColorSetting : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineColorSetting : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineColorSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineColorSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineColorSetting();
+	UE_API UMoviePipelineColorSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 	virtual bool IsValidOnShots() const override { return false; }
 	virtual bool IsValidOnPrimary() const override { return true; }
@@ -23,3 +25,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, AdvancedDisplay, Category = "Misc")
 	bool bDisableToneCurve;
 };
+
+#undef UE_API

@@ -4,6 +4,8 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UENUM(BlueprintType)
 enum class EMoviePipelineEncodeQuality : uint8
 {
@@ -15,16 +17,16 @@ enum class EMoviePipelineEncodeQuality : uint8
 STANDIN_DECLARE_ENUM(EMoviePipelineEncodeQuality, MOVIERENDERPIPELINECORE_API)
 
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineCommandLineEncoder : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineCommandLineEncoder : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineCommandLineEncoder, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineCommandLineEncoder, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineCommandLineEncoder();
+	UE_API UMoviePipelineCommandLineEncoder();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
-	virtual FText GetCategoryText() const override;
+	UE_API virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetCategoryText() const override;
 	virtual bool CanBeDisabled() const override { return true; }
 #endif
 	virtual bool IsValidOnShots() const override { return false; }
@@ -48,3 +50,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Command Line Encoder")
 	bool bWriteEachFrameDuration;
 };
+
+#undef UE_API

@@ -7,37 +7,39 @@
 #include "UObject/ObjectPtr.h"
 #include "UObject/SoftObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Abstract, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineConfigBase : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineConfigBase : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineConfigBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineConfigBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineConfigBase();
+	UE_API UMoviePipelineConfigBase();
 
-	virtual void PostRename(UObject* OldOuter, const FName OldName) override;
-	virtual void PostDuplicate(bool bDuplicateForPIE) override;
+	UE_API virtual void PostRename(UObject* OldOuter, const FName OldName) override;
+	UE_API virtual void PostDuplicate(bool bDuplicateForPIE) override;
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	virtual void RemoveSetting(UMoviePipelineSetting* InSetting);
+	UE_API virtual void RemoveSetting(UMoviePipelineSetting* InSetting);
 
 	// Replaces this configuration's settings with copies of InConfig's; null or this configuration do nothing.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	virtual void CopyFrom(UMoviePipelineConfigBase* InConfig);
+	UE_API virtual void CopyFrom(UMoviePipelineConfigBase* InConfig);
 
 	// Every user setting of InClass (or of a subclass unless bExactMatch); disabled ones only when asked.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	TArray<UMoviePipelineSetting*> FindSettingsByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false) const;
+	UE_API TArray<UMoviePipelineSetting*> FindSettingsByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false) const;
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMoviePipelineSetting* FindSettingByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false) const;
+	UE_API UMoviePipelineSetting* FindSettingByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false) const;
 
 	// The existing setting of that class, else a new one when this configuration type accepts it; null otherwise.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMoviePipelineSetting* FindOrAddSettingByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false);
+	UE_API UMoviePipelineSetting* FindOrAddSettingByClass(TSubclassOf<UMoviePipelineSetting> InClass, const bool bIncludeDisabledSettings = false, const bool bExactMatch = false);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	virtual TArray<UMoviePipelineSetting*> GetUserSettings() const;
+	UE_API virtual TArray<UMoviePipelineSetting*> GetUserSettings() const;
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	UMoviePipelineConfigBase* GetConfigOrigin() const { return ConfigOrigin.LoadSynchronous(); }
@@ -86,3 +88,5 @@ private:
 
 	int32 SettingsSerialNumber;
 };
+
+#undef UE_API

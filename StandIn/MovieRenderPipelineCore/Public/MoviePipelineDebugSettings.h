@@ -4,16 +4,18 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineDebugSettings : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineDebugSettings : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDebugSettings, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDebugSettings, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineDebugSettings();
+	UE_API UMoviePipelineDebugSettings();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 	virtual bool CanBeDisabled() const override { return true; }
 #endif
 	virtual bool IsValidOnShots() const override { return false; }
@@ -32,3 +34,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Profiling")
 	bool bCaptureUnrealInsightsTrace;
 };
+
+#undef UE_API

@@ -6,6 +6,8 @@
 #include "UObject/ObjectPtr.h"
 #include "UObject/Object.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMoviePipeline;
 class UMoviePipelineExecutorBase;
 class UMoviePipelineQueue;
@@ -14,12 +16,12 @@ DECLARE_MULTICAST_DELEGATE_TwoParams(FOnMoviePipelineExecutorFinishedNative, UMo
 DECLARE_MULTICAST_DELEGATE_FourParams(FOnMoviePipelineExecutorErroredNative, UMoviePipelineExecutorBase* /*PipelineExecutor*/, UMoviePipeline* /*PipelineWithError*/, bool /*bIsFatal*/, FText /*ErrorText*/);
 
 UCLASS(MinimalAPI, Blueprintable, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorBase : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineExecutorBase : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineExecutorBase, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineExecutorBase, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineExecutorBase();
+	UE_API UMoviePipelineExecutorBase();
 
 	// Starts rendering the jobs of the queue.
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
@@ -44,7 +46,7 @@ public:
 
 	// The pipeline class the executor renders jobs with; null lets the executor choose.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetMoviePipelineClass(UClass* InPipelineClass);
+	UE_API void SetMoviePipelineClass(UClass* InPipelineClass);
 
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
 	void CancelCurrentJob() { CancelCurrentJob_Implementation(); }
@@ -63,10 +65,10 @@ protected:
 
 	// Tells the listeners that every job is done; the executor succeeded unless a job had a fatal error.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	virtual void OnExecutorFinishedImpl();
+	UE_API virtual void OnExecutorFinishedImpl();
 
 	// Records a fatal error for the finished report, then tells the error listeners.
-	virtual void OnExecutorErroredImpl(UMoviePipeline* ErroredPipeline, bool bFatal, FText ErrorReason);
+	UE_API virtual void OnExecutorErroredImpl(UMoviePipeline* ErroredPipeline, bool bFatal, FText ErrorReason);
 
 public:
 	// Anything a script wants to keep with the executor; not used by the engine.
@@ -86,3 +88,5 @@ private:
 	FOnMoviePipelineExecutorFinishedNative OnExecutorFinishedDelegateNative;
 	FOnMoviePipelineExecutorErroredNative OnExecutorErroredDelegateNative;
 };
+
+#undef UE_API

@@ -4,11 +4,15 @@
 #include "CoreMinimal.h"
 #include "GameFramework/GameModeBase.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI)
-class MOVIERENDERPIPELINECORE_API AMoviePipelineGameMode : public AGameModeBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) AMoviePipelineGameMode : public AGameModeBase
 {
-	STANDIN_CLASS_BODY(AMoviePipelineGameMode, AGameModeBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(AMoviePipelineGameMode, AGameModeBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	AMoviePipelineGameMode();
+	UE_API AMoviePipelineGameMode();
 };
+
+#undef UE_API

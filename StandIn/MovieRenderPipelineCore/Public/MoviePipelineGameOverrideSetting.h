@@ -7,6 +7,8 @@
 #include "Templates/SubclassOf.h"
 #include "UObject/SoftObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UENUM(BlueprintType)
 enum class EMoviePipelineTextureStreamingMethod : uint8
 {
@@ -20,15 +22,15 @@ enum class EMoviePipelineTextureStreamingMethod : uint8
 STANDIN_DECLARE_ENUM(EMoviePipelineTextureStreamingMethod, MOVIERENDERPIPELINECORE_API)
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineGameOverrideSetting : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineGameOverrideSetting : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineGameOverrideSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineGameOverrideSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineGameOverrideSetting();
+	UE_API UMoviePipelineGameOverrideSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 	virtual bool IsValidOnShots() const override { return false; }
 	virtual bool IsValidOnPrimary() const override { return true; }
@@ -96,3 +98,5 @@ public:
 	// Only applies to the D3D12 renderer; not reflected.
 	bool bDisableGPUTimeout;
 };
+
+#undef UE_API

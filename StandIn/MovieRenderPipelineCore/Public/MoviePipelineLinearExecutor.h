@@ -5,33 +5,35 @@
 #include "MoviePipelineExecutor.h"
 #include "UObject/ObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMoviePipelineBase;
 class UMoviePipelineExecutorJob;
 
 UCLASS(MinimalAPI, Blueprintable, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineLinearExecutorBase : public UMoviePipelineExecutorBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineLinearExecutorBase : public UMoviePipelineExecutorBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineLinearExecutorBase, UMoviePipelineExecutorBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineLinearExecutorBase, UMoviePipelineExecutorBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineLinearExecutorBase();
+	UE_API UMoviePipelineLinearExecutorBase();
 
 protected:
-	virtual void Execute_Implementation(UMoviePipelineQueue* InPipelineQueue) override;
+	UE_API virtual void Execute_Implementation(UMoviePipelineQueue* InPipelineQueue) override;
 	virtual bool IsRendering_Implementation() const override { return bIsRendering; }
 	// Stand-in choice: the active pipeline is asked to shut down (RequestShutdown), so a cancel takes effect at its next tick.
-	virtual void CancelCurrentJob_Implementation() override;
-	virtual void CancelAllJobs_Implementation() override;
-	virtual void OnExecutorFinishedImpl() override;
+	UE_API virtual void CancelCurrentJob_Implementation() override;
+	UE_API virtual void CancelAllJobs_Implementation() override;
+	UE_API virtual void OnExecutorFinishedImpl() override;
 
 	// Starts rendering the job; the subclass calls OnIndividualPipelineFinished once the job is done.
 	virtual void Start(const UMoviePipelineExecutorJob* InJob) {}
 
 	// Moves on to the next job, or finishes when that was the last one or the executor is canceling.
-	virtual void OnIndividualPipelineFinished(UMoviePipelineBase* FinishedPipeline);
+	UE_API virtual void OnIndividualPipelineFinished(UMoviePipelineBase* FinishedPipeline);
 
 	// The active pipeline's completion (0 to 1), or 0 without one.
-	float GetCompletionPercentageFromActivePipeline() const;
+	UE_API float GetCompletionPercentageFromActivePipeline() const;
 
 private:
 	// Starts the first job from InPipelineIndex on that is enabled and not consumed; finishes when none is left.
@@ -49,3 +51,5 @@ protected:
 	bool bIsRendering;
 	bool bIsCanceling;
 };
+
+#undef UE_API

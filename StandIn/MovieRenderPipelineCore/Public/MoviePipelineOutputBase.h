@@ -4,20 +4,22 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 struct FMoviePipelineMergerOutputFrame;
 
 UCLASS(MinimalAPI, Blueprintable, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineOutputBase : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineOutputBase : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineOutputBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineOutputBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineOutputBase();
+	UE_API UMoviePipelineOutputBase();
 
 	virtual bool IsValidOnShots() const override { return false; }
 	virtual bool IsValidOnPrimary() const override { return true; }
 #if WITH_EDITOR
-	virtual FText GetCategoryText() const override;
+	UE_API virtual FText GetCategoryText() const override;
 #endif
 
 	// Called by the pipeline once for every output frame it produced.
@@ -26,3 +28,5 @@ public:
 protected:
 	virtual void OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame) {}
 };
+
+#undef UE_API

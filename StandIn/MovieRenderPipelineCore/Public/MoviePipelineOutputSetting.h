@@ -8,25 +8,30 @@
 #include "MoviePipelineSetting.h"
 #include "UObject/ObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class USoundSubmix;
 
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineOutputSetting : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineOutputSetting : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineOutputSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineOutputSetting, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineOutputSetting();
+	UE_API UMoviePipelineOutputSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 	virtual bool CanBeDisabled() const override { return false; }
 #endif
 	virtual bool IsValidOnShots() const override { return false; }
 	virtual bool IsValidOnPrimary() const override { return true; }
 
 	// A directory saved empty comes back as the default one.
-	virtual void PostLoad() override;
+	UE_API virtual void PostLoad() override;
+
+	// project_dir, output_resolution ("<width>_<height>"), output_width and output_height.
+	UE_API virtual void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const override;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "File Output")
 	FDirectoryPath OutputDirectory;
@@ -82,3 +87,5 @@ public:
 	UPROPERTY(BlueprintReadWrite, Category = "File Output")
 	bool bFlushDiskWritesPerShot;
 };
+
+#undef UE_API

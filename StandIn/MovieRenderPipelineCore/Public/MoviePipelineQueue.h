@@ -5,16 +5,18 @@
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineShotConfig.h"
 #include "MovieRenderPipelineDataTypes.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/SoftObjectPath.h"
 #include "UObject/SoftObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMovieGraphConfig;
 class UMovieJobVariableAssignmentContainer;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 // How a job is configured: a legacy preset, a graph asset, or the basic settings of the job itself.
 UENUM(BlueprintType)
 enum class EMoviePipelineConfigMode : uint8
@@ -28,19 +30,19 @@ STANDIN_DECLARE_ENUM(EMoviePipelineConfigMode, MOVIERENDERPIPELINECORE_API)
 
 // One shot of a job: a camera cut (inner name) inside a shot section (outer name) of the job's sequence.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorShot : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineExecutorShot : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineExecutorShot, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineExecutorShot, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineExecutorShot();
+	UE_API UMoviePipelineExecutorShot();
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	bool ShouldRender() const { return bEnabled; }
 
 	// The sidecar camera's name when the index names one, else the camera cut's name.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	FString GetCameraName(int32 InCameraIndex) const;
+	UE_API FString GetCameraName(int32 InCameraIndex) const;
 
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
 	void SetStatusMessage(const FString& InStatus) { SetStatusMessage_Implementation(InStatus); }
@@ -57,15 +59,15 @@ public:
 	virtual float GetStatusProgress_Implementation() const { return Progress; }
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMoviePipelineShotConfig* AllocateNewShotOverrideConfig(TSubclassOf<UMoviePipelineShotConfig> InConfigType);
+	UE_API UMoviePipelineShotConfig* AllocateNewShotOverrideConfig(TSubclassOf<UMoviePipelineShotConfig> InConfigType);
 
 	// Copies the preset into the shot's own override configuration; null removes the override.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetShotOverrideConfiguration(UMoviePipelineShotConfig* InPreset);
+	UE_API void SetShotOverrideConfiguration(UMoviePipelineShotConfig* InPreset);
 
 	// As SetShotOverrideConfiguration, remembering the preset as where the override came from.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetShotOverridePresetOrigin(UMoviePipelineShotConfig* InPreset);
+	UE_API void SetShotOverridePresetOrigin(UMoviePipelineShotConfig* InPreset);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	UMoviePipelineShotConfig* GetShotOverrideConfiguration() const { return ShotOverrideConfig; }
@@ -74,17 +76,17 @@ public:
 	UMoviePipelineShotConfig* GetShotOverridePresetOrigin() const { return ShotOverridePresetOrigin.LoadSynchronous(); }
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetGraphPreset(const UMovieGraphConfig* InGraphPreset, const bool bUpdateVariableAssignments = true);
+	UE_API void SetGraphPreset(const UMovieGraphConfig* InGraphPreset, const bool bUpdateVariableAssignments = true);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	UMovieGraphConfig* GetGraphPreset() const;
+	UE_API UMovieGraphConfig* GetGraphPreset() const;
 
 	// True when the shot has a graph preset of its own, or its job renders with a graph.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	bool IsUsingGraphConfiguration() const;
+	UE_API bool IsUsingGraphConfiguration() const;
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMovieJobVariableAssignmentContainer* GetOrCreateJobVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph, const bool bIsForPrimaryOverrides = false);
+	UE_API UMovieJobVariableAssignmentContainer* GetOrCreateJobVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph, const bool bIsForPrimaryOverrides = false);
 
 	UPROPERTY(BlueprintReadWrite, Category = "Movie Render Pipeline")
 	bool bEnabled;
@@ -100,7 +102,7 @@ public:
 	UPROPERTY(BlueprintReadWrite, Category = "Movie Render Pipeline")
 	TArray<FMoviePipelineSidecarCamera> SidecarCameras;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 7
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	// Stand-in choice: offered from 5.7, the first version it was seen in.
 	UPROPERTY(BlueprintReadWrite, EditAnywhere, Category = "Movie Render Pipeline")
 	TArray<FMoviePipelineConsoleVariableEntry> ConsoleVariableOverrides;
@@ -136,16 +138,16 @@ private:
 
 // One job of the queue: what to render (sequence, map), how (configuration or graph), and its state in a render.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineExecutorJob : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineExecutorJob : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineExecutorJob, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineExecutorJob, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineExecutorJob();
+	UE_API UMoviePipelineExecutorJob();
 
 #if WITH_EDITOR
 	// A changed Sequence rebuilds the shot list, as SetSequence does.
-	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
+	UE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 #endif
 
 	UFUNCTION(BlueprintCallable, BlueprintNativeEvent, Category = "Movie Render Pipeline")
@@ -179,13 +181,13 @@ public:
 	virtual float GetStatusProgress_Implementation() const { return StatusProgress; }
 	virtual void SetConsumed_Implementation(const bool bInConsumed) { bIsConsumed = bInConsumed; }
 	virtual bool IsConsumed_Implementation() const { return bIsConsumed; }
-	virtual void SetIsEnabled_Implementation(const bool bInEnabled);
+	UE_API virtual void SetIsEnabled_Implementation(const bool bInEnabled);
 	virtual bool IsEnabled_Implementation() const { return bEnabled; }
-	virtual void OnDuplicated_Implementation();
+	UE_API virtual void OnDuplicated_Implementation();
 
 	// Copies the preset into the job's configuration and remembers it as the configuration's origin; null does nothing.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetPresetOrigin(UMoviePipelinePrimaryConfig* InPreset);
+	UE_API void SetPresetOrigin(UMoviePipelinePrimaryConfig* InPreset);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	UMoviePipelinePrimaryConfig* GetPresetOrigin() const { return PresetOrigin.LoadSynchronous(); }
@@ -195,35 +197,35 @@ public:
 
 	// Copies the preset into the job's configuration and forgets the origin; null does nothing.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetConfiguration(UMoviePipelinePrimaryConfig* InPreset);
+	UE_API void SetConfiguration(UMoviePipelinePrimaryConfig* InPreset);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	UMovieGraphConfig* GetGraphPreset() const;
+	UE_API UMovieGraphConfig* GetGraphPreset() const;
 
 	// Null also clears the graph presets of the shots.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetGraphPreset(const UMovieGraphConfig* InGraphPreset, const bool bUpdateVariableAssignments = true);
+	UE_API void SetGraphPreset(const UMovieGraphConfig* InGraphPreset, const bool bUpdateVariableAssignments = true);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	bool IsUsingGraphConfiguration() const;
+	UE_API bool IsUsingGraphConfiguration() const;
 
 	// Stores the path, empties the shot list and, when the sequence loads, rebuilds the shots from it.
 	UFUNCTION(BlueprintSetter)
-	void SetSequence(FSoftObjectPath InSequence);
+	UE_API void SetSequence(FSoftObjectPath InSequence);
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline", meta = (ScriptName = "GetOrCreateVariableOverrides"))
-	UMovieJobVariableAssignmentContainer* GetOrCreateJobVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph);
+	UE_API UMovieJobVariableAssignmentContainer* GetOrCreateJobVariableAssignmentsForGraph(const UMovieGraphConfig* InGraph);
 
-	TArray<TObjectPtr<UMovieJobVariableAssignmentContainer>>& GetGraphVariableAssignments(const bool bUpdateAssignments = true);
+	UE_API TArray<TObjectPtr<UMovieJobVariableAssignmentContainer>>& GetGraphVariableAssignments(const bool bUpdateAssignments = true);
 
 	// Keeps one assignment container for the graph in use and none for others, on the job and on its shots.
-	void RefreshAllVariableAssignments();
+	UE_API void RefreshAllVariableAssignments();
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	EMoviePipelineConfigMode GetConfigMode() const { return ConfigMode; }
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetConfigMode(const EMoviePipelineConfigMode InConfigMode);
+	UE_API void SetConfigMode(const EMoviePipelineConfigMode InConfigMode);
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	bool IsUsingBasicConfiguration() const { return ConfigMode == EMoviePipelineConfigMode::Basic; }
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
@@ -287,7 +289,7 @@ private:
 	UPROPERTY(EditAnywhere, Instanced, Category = "Variable Assignments")
 	TArray<TObjectPtr<UMovieJobVariableAssignmentContainer>> GraphVariableAssignments;
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	// Stand-in choice: the basic configuration is a graph owned by the job.
 	UPROPERTY(Instanced)
 	TObjectPtr<UMovieGraphConfig> BasicConfig;
@@ -302,37 +304,37 @@ private:
 
 // The editor's and the executors' list of jobs.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineQueue : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineQueue : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineQueue, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineQueue, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineQueue();
+	UE_API UMoviePipelineQueue();
 
 	// Appends a new job of the type (UMoviePipelineExecutorJob when none is given).
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline", meta = (DeterminesOutputType = "InJobType"))
-	UMoviePipelineExecutorJob* AllocateNewJob(TSubclassOf<UMoviePipelineExecutorJob> InJobType);
+	UE_API UMoviePipelineExecutorJob* AllocateNewJob(TSubclassOf<UMoviePipelineExecutorJob> InJobType);
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void DeleteJob(UMoviePipelineExecutorJob* InJob);
+	UE_API void DeleteJob(UMoviePipelineExecutorJob* InJob);
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void DeleteAllJobs();
+	UE_API void DeleteAllJobs();
 
 	// Appends a copy of the job, without the original's render state and user data.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMoviePipelineExecutorJob* DuplicateJob(UMoviePipelineExecutorJob* InJob);
+	UE_API UMoviePipelineExecutorJob* DuplicateJob(UMoviePipelineExecutorJob* InJob);
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
-	TArray<UMoviePipelineExecutorJob*> GetJobs() const;
+	UE_API TArray<UMoviePipelineExecutorJob*> GetJobs() const;
 
 	// Replaces the jobs with copies of InQueue's and takes over its origin; null logs a warning and returns null.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	UMoviePipelineQueue* CopyFrom(UMoviePipelineQueue* InQueue);
+	UE_API UMoviePipelineQueue* CopyFrom(UMoviePipelineQueue* InQueue);
 
 	// Moves the job so that it ends up before the job now at Index.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline")
-	void SetJobIndex(UMoviePipelineExecutorJob* InJob, int32 Index);
+	UE_API void SetJobIndex(UMoviePipelineExecutorJob* InJob, int32 Index);
 
 	// The saved queue this transient queue was loaded from.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
@@ -352,7 +354,7 @@ public:
 	uint32 GetQueueSerialNumber() const { return QueueSerialNumber; }
 	void InvalidateSerialNumber() { ++QueueSerialNumber; }
 
-	virtual void PreSave(const ITargetPlatform* TargetPlatform) override;
+	UE_API virtual void PreSave(const ITargetPlatform* TargetPlatform) override;
 
 private:
 #if WITH_EDITOR
@@ -370,3 +372,5 @@ private:
 	bool bIsDirty;
 #endif
 };
+
+#undef UE_API

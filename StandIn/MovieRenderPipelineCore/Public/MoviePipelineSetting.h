@@ -5,8 +5,11 @@
 #include "UObject/Object.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMoviePipeline;
 class UMoviePipelineExecutorJob;
+struct FMoviePipelineFormatArgs;
 
 enum class EMoviePipelineValidationState : uint8
 {
@@ -16,21 +19,21 @@ enum class EMoviePipelineValidationState : uint8
 };
 
 UCLASS(MinimalAPI, BlueprintType, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineSetting : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineSetting : public UObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelineSetting, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineSetting, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineSetting();
+	UE_API UMoviePipelineSetting();
 
 	// Validates the setting and caches the result for GetValidationState().
 	void ValidateState() { ValidateStateImpl(); }
 
 #if WITH_EDITOR
-	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
+	UE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
-	virtual FText GetDisplayText() const;
-	virtual FText GetCategoryText() const;
+	UE_API virtual FText GetDisplayText() const;
+	UE_API virtual FText GetCategoryText() const;
 	virtual FText GetFooterText(UMoviePipelineExecutorJob* InJob) const { return FText(); }
 	// Whether the editor UI lets the user disable the setting; SetIsEnabled does not consult it.
 	virtual bool CanBeDisabled() const { return true; }
@@ -47,13 +50,16 @@ public:
 	virtual bool IsSolo() const { return true; }
 
 	virtual EMoviePipelineValidationState GetValidationState() const { return ValidationState; }
-	virtual void ValidateStateImpl();
+	UE_API virtual void ValidateStateImpl();
 	virtual TArray<FText> GetValidationResults() const { return ValidationResults; }
 
+	// Adds the file name tokens ({name} -> value) this setting provides.
+	virtual void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const {}
+
 	// Called by the pipeline that is about to render with this setting.
-	void OnMoviePipelineInitialized(UMoviePipeline* InPipeline);
+	UE_API void OnMoviePipelineInitialized(UMoviePipeline* InPipeline);
 	// The pipeline rendering with this setting; null outside a render.
-	UMoviePipeline* GetPipeline() const;
+	UE_API UMoviePipeline* GetPipeline() const;
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline")
 	virtual bool IsEnabled() const { return bEnabled; }
@@ -61,6 +67,9 @@ public:
 	virtual void SetIsEnabled(bool bInEnabled) { bEnabled = bInEnabled; }
 
 protected:
+	// Prepares the setting for the render of InPipeline.
+	virtual void SetupForPipelineImpl(UMoviePipeline* InPipeline) {}
+
 	UPROPERTY()
 	bool bEnabled;
 
@@ -70,3 +79,5 @@ protected:
 private:
 	TWeakObjectPtr<UMoviePipeline> CachedPipeline;
 };
+
+#undef UE_API

@@ -4,13 +4,15 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineSetting.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineSetting_BlueprintBase : public UMoviePipelineSetting
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineSetting_BlueprintBase : public UMoviePipelineSetting
 {
-	STANDIN_CLASS_BODY(UMoviePipelineSetting_BlueprintBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineSetting_BlueprintBase, UMoviePipelineSetting, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineSetting_BlueprintBase();
+	UE_API UMoviePipelineSetting_BlueprintBase();
 
 #if WITH_EDITOR
 	virtual FText GetCategoryText() const override { return CategoryText; }
@@ -32,3 +34,5 @@ protected:
 	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = "Movie Render Pipeline")
 	bool bCanBeDisabled;
 };
+
+#undef UE_API

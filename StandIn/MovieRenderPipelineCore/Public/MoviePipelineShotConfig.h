@@ -4,13 +4,17 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineConfigBase.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineShotConfig : public UMoviePipelineConfigBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineShotConfig : public UMoviePipelineConfigBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineShotConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineShotConfig, UMoviePipelineConfigBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineShotConfig();
+	UE_API UMoviePipelineShotConfig();
 
-	virtual bool CanSettingBeAdded(const UMoviePipelineSetting* InSetting) const override;
+	UE_API virtual bool CanSettingBeAdded(const UMoviePipelineSetting* InSetting) const override;
 };
+
+#undef UE_API

@@ -4,11 +4,15 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineOutputBase.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 UCLASS(MinimalAPI, Blueprintable, Abstract)
-class MOVIERENDERPIPELINECORE_API UMoviePipelineVideoOutputBase : public UMoviePipelineOutputBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineVideoOutputBase : public UMoviePipelineOutputBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineVideoOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineVideoOutputBase, UMoviePipelineOutputBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMoviePipelineVideoOutputBase();
+	UE_API UMoviePipelineVideoOutputBase();
 };
+
+#undef UE_API

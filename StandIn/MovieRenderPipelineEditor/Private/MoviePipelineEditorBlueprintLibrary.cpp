@@ -2,13 +2,13 @@
 
 #include "Editor.h"
 #include "Engine/World.h"
-#include "HAL/FileManager.h"
-#include "HAL/PlatformProcess.h"
 #include "LevelSequence.h"
 #include "Misc/DateTime.h"
-#include "Misc/Paths.h"
 #include "MoviePipelineOutputSetting.h"
+#include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
+#include "MoviePipelineStandInFileNaming.h"
+#include "MovieRenderPipelineDataTypes.h"
 #include "MovieRenderPipelineSettings.h"
 #include "UObject/UnrealType.h"
 
@@ -19,77 +19,24 @@ namespace UE::MoviePipeline
 	// Shot and camera names stay unresolved in an output directory, so that the path is cut before them.
 	static const TCHAR* const UnresolvableToken = TEXT("{dontresolvethis}");
 
-	static FString GetJobAuthor(const UMoviePipelineExecutorJob& InJob)
-	{
-		return InJob.Author.Len() > 0 ? InJob.Author : FString(FPlatformProcess::UserName(false));
-	}
-
-	static FString PadFrameNumber(int32 InZeroPadCount, int32 InFrameNumber)
-	{
-		// The sign counts as a digit, so negative numbers get one more.
-		return FString::Printf(TEXT("%0*d"), InFrameNumber < 0 ? InZeroPadCount + 1 : InZeroPadCount, InFrameNumber);
-	}
-
-	// The number of the first "v" followed by three digits in the name, or 0.
-	static int32 ParseVersionToken(const FString& InName)
-	{
-		for (int32 Index = 0; Index + 3 < InName.Len(); ++Index)
-		{
-			if (InName[Index] == TEXT('v') && FChar::IsDigit(InName[Index + 1]) && FChar::IsDigit(InName[Index + 2]) && FChar::IsDigit(InName[Index + 3]))
-			{
-				return FCString::Atoi(*InName.Mid(Index + 1, 3));
-			}
-		}
-		return 0;
-	}
-
-	// The highest version among the entries of the folder that holds the first {version} token.
-	// Stand-in choice: without a render in progress the current version is the highest one found (0 for none).
-	static int32 FindHighestVersionNextTo(const FString& InPath)
-	{
-		const int32 VersionIndex = InPath.Find(TEXT("{version}"));
-		if (VersionIndex == INDEX_NONE)
-		{
-			return 0;
-		}
-		const int32 ParentEnd = InPath.Find(TEXT("/"), ESearchCase::IgnoreCase, ESearchDir::FromEnd, VersionIndex);
-		const FString ParentFolder = FPaths::ConvertRelativePathToFull(InPath.Left(ParentEnd + 1));
-		TArray<FString> Entries;
-		IFileManager::Get().FindFiles(Entries, *(ParentFolder / TEXT("*.*")), true, true);
-		int32 HighestVersion = 0;
-		for (const FString& Entry : Entries)
-		{
-			HighestVersion = FMath::Max(HighestVersion, ParseVersionToken(Entry));
-		}
-		return HighestVersion;
-	}
-
 	// The values of the tokens an output directory may use before any shot or frame is known.
-	static TMap<FString, FString> GatherDirectoryArguments(const UMoviePipelineExecutorJob& InJob, const UMoviePipelineOutputSetting& InOutput, const FString& InFormat)
+	static TMap<FString, FString> GatherDirectoryArguments(const UMoviePipelineExecutorJob& InJob, const UMoviePipelineOutputSetting& InOutput)
 	{
-		TMap<FString, FString> Arguments;
-		Arguments.Add(TEXT("project_dir"), FPaths::ConvertRelativePathToFull(FPaths::ProjectDir()));
-		Arguments.Add(TEXT("output_resolution"), FString::Printf(TEXT("%d_%d"), InOutput.OutputResolution.X, InOutput.OutputResolution.Y));
-		Arguments.Add(TEXT("output_width"), FString::FromInt(InOutput.OutputResolution.X));
-		Arguments.Add(TEXT("output_height"), FString::FromInt(InOutput.OutputResolution.Y));
-		Arguments.Add(TEXT("sequence_name"), InJob.Sequence.GetAssetName());
-		Arguments.Add(TEXT("level_name"), InJob.Map.GetAssetName());
-		Arguments.Add(TEXT("job_name"), InJob.JobName);
-		Arguments.Add(TEXT("job_author"), GetJobAuthor(InJob));
-
+		using namespace UE::MoviePipeline::StandIn;
 		const ULevelSequence* Sequence = Cast<ULevelSequence>(InJob.Sequence.ResolveObject());
-		Arguments.Add(TEXT("frame_rate"), FString::SanitizeFloat(InJob.GetConfiguration()->GetEffectiveFrameRate(Sequence).AsDecimal()));
+		const FFrameRate FrameRate = InJob.GetConfiguration()->GetEffectiveFrameRate(Sequence);
+		FMoviePipelineFormatArgs FormatArgs;
+		AddJobFormatArguments(FormatArgs.FilenameArguments, InJob, FrameRate, FDateTime::Now(), InOutput.VersionNumber);
+		InOutput.GetFormatArguments(FormatArgs);
+		TMap<FString, FString>& Arguments = FormatArgs.FilenameArguments;
+		if (InOutput.bAutoVersion)
+		{
+			// Stand-in choice: without a render in progress the current version is the highest one found (0 for none).
+			const int32 HighestVersion = FindHighestExistingVersion(InOutput.OutputDirectory.Path, Arguments);
+			Arguments.Add(TEXT("version"), FormatVersion(FMath::Max(HighestVersion, 0)));
+		}
 
-		const FDateTime Now = FDateTime::Now();
-		Arguments.Add(TEXT("date"), Now.ToString(TEXT("%Y.%m.%d")));
-		Arguments.Add(TEXT("time"), Now.ToString(TEXT("%H.%M.%S")));
-		Arguments.Add(TEXT("year"), Now.ToString(TEXT("%Y")));
-		Arguments.Add(TEXT("month"), Now.ToString(TEXT("%m")));
-		Arguments.Add(TEXT("day"), Now.ToString(TEXT("%d")));
-		const int32 Version = InOutput.bAutoVersion ? FindHighestVersionNextTo(InFormat) : InOutput.VersionNumber;
-		Arguments.Add(TEXT("version"), FString::Printf(TEXT("v%0*d"), 3, Version));
-
-		const FString FrameNumber = PadFrameNumber(InOutput.ZeroPadFrameNumbers, InOutput.FrameNumberOffset);
+		const FString FrameNumber = PadFrameNumber(InOutput.FrameNumberOffset, InOutput.ZeroPadFrameNumbers);
 		for (const TCHAR* FrameToken : { TEXT("frame_number"), TEXT("frame_number_shot"), TEXT("frame_number_rel"), TEXT("frame_number_shot_rel") })
 		{
 			Arguments.Add(FrameToken, FrameNumber);
@@ -97,30 +44,7 @@ namespace UE::MoviePipeline
 		Arguments.Add(TEXT("shot_name"), UnresolvableToken);
 		Arguments.Add(TEXT("camera_name"), UnresolvableToken);
 		Arguments.Add(TEXT("file_dup"), FString());
-		return Arguments;
-	}
-
-	// Replaces every {name} with a known value; unknown tokens stay as they are.
-	static FString FormatNamedArguments(const FString& InFormat, const TMap<FString, FString>& InArguments)
-	{
-		FString Result;
-		int32 Index = 0;
-		while (Index < InFormat.Len())
-		{
-			const int32 Close = InFormat[Index] == TEXT('{') ? InFormat.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index) : INDEX_NONE;
-			const FString* Value = Close != INDEX_NONE ? InArguments.Find(InFormat.Mid(Index + 1, Close - Index - 1)) : nullptr;
-			if (Value)
-			{
-				Result += *Value;
-				Index = Close + 1;
-			}
-			else
-			{
-				Result.AppendChar(InFormat[Index]);
-				++Index;
-			}
-		}
-		return Result;
+		return MoveTemp(Arguments);
 	}
 
 	// Cuts the path after the last folder separator before its first unresolved token.
@@ -163,7 +87,7 @@ UMoviePipelineExecutorJob* UMoviePipelineEditorBlueprintLibrary::CreateJobFromSe
 	return NewJob;
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 void UMoviePipelineEditorBlueprintLibrary::EnsureJobHasDefaultSettings(UMoviePipelineExecutorJob* NewJob, bool bForce)
 #else
 void UMoviePipelineEditorBlueprintLibrary::EnsureJobHasDefaultSettings(UMoviePipelineExecutorJob* NewJob)
@@ -214,20 +138,14 @@ FString UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(UMov
 	{
 		return FString();
 	}
-	FString FormatString = OutputSetting->OutputDirectory.Path;
-	FPaths::NormalizeFilename(FormatString);
-
-	FString ResolvedPath = FormatNamedArguments(FormatString, GatherDirectoryArguments(*InJob, *OutputSetting, FormatString));
-	FPaths::NormalizeFilename(ResolvedPath);
-	if (FPaths::IsRelative(ResolvedPath))
-	{
-		ResolvedPath = FPaths::ConvertRelativePathToFull(ResolvedPath);
-	}
+	// The directory the pipeline would write to, as far as it is known before the render.
+	const FString FormatString = OutputSetting->OutputDirectory.Path;
+	FString ResolvedPath = StandIn::MakeOutputPathAbsolute(StandIn::FormatArguments(FormatString, GatherDirectoryArguments(*InJob, *OutputSetting)));
 	TrimAtFirstUnresolvedToken(ResolvedPath);
 	return ResolvedPath;
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob, FText& OutError)
 {
 	OutError = FText::GetEmpty();
@@ -246,10 +164,10 @@ FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(U
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineEditorBlueprintLibrary, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_FUNCTION(CreateJobFromSequence, TEXT("InPipelineQueue"), TEXT("InSequence"));
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 8
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
 	STANDIN_FUNCTION(EnsureJobHasDefaultSettings, TEXT("NewJob"), TEXT("bForce"));
 	STANDIN_FUNCTION(TryResolveOutputDirectoryFromJob, TEXT("InJob"), TEXT("OutError"));
 #else

@@ -146,7 +146,7 @@ void UMoviePipelinePIEExecutor::RaiseQueueProgress(float InProgress)
 
 #undef LOCTEXT_NAMESPACE
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelinePIEExecutor, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelinePIEExecutor, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_FUNCTION(SetIsRenderingOffscreen, TEXT("bInRenderOffscreen"));
 	STANDIN_FUNCTION(IsRenderingOffscreen);

@@ -29,7 +29,7 @@ void UMoviePipelineQueueSubsystem::RenderQueueWithExecutorInstance(UMoviePipelin
 	StartRender(GetQueue(), InExecutor);
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 UMoviePipelineExecutorBase* UMoviePipelineQueueSubsystem::RenderQueueInstanceWithExecutor(UMoviePipelineQueue* InQueue, TSubclassOf<UMoviePipelineExecutorBase> InExecutorType)
 {
 	if (!ensureMsgf(!IsRendering(), TEXT("RenderQueueInstanceWithExecutor cannot be called while already rendering a queue!")))
@@ -121,14 +121,14 @@ bool UMoviePipelineQueueSubsystem::RefreshShotListsFromSequences()
 	return bAnyShotsChanged;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineQueueSubsystem, CLASS_None, "MovieRenderPipelineEditor")
 {
 	STANDIN_PROPERTY(ActiveExecutor, CPF_Transient);
 	STANDIN_PROPERTY(CurrentQueue, CPF_Transient | CPF_ExportObject | CPF_InstancedReference);
 	STANDIN_FUNCTION(GetQueue);
 	STANDIN_FUNCTION(RenderQueueWithExecutor, TEXT("InExecutorType"));
 	STANDIN_FUNCTION(RenderQueueWithExecutorInstance, TEXT("InExecutor"));
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 	STANDIN_FUNCTION(RenderQueueInstanceWithExecutor, TEXT("InQueue"), TEXT("InExecutorType"));
 	STANDIN_FUNCTION(RenderQueueInstanceWithExecutorInstance, TEXT("InQueue"), TEXT("InExecutor"));
 #endif

@@ -18,7 +18,7 @@ UMovieRenderPipelineProjectSettings::UMovieRenderPipelineProjectSettings()
 	DefaultClasses.Add(FSoftClassPath(UMoviePipelineDeferredPassBase::StaticClass()));
 }
 
-STANDIN_IMPLEMENT_CLASS(UMovieRenderPipelineProjectSettings, CLASS_Config | CLASS_DefaultConfig, "MovieRenderPipelineEditor")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieRenderPipelineProjectSettings, CLASS_Config | CLASS_DefaultConfig, "MovieRenderPipelineEditor")
 {
 	constexpr EPropertyFlags ConfigFlags = CPF_Config | CPF_Edit;
 	STANDIN_PROPERTY(PresetSaveDir, ConfigFlags)->SetMetaData(TEXT("ContentDir"), TEXT(""));

@@ -10,17 +10,19 @@
 #include "TickableEditorObject.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINEEDITOR_API)
+
 class UMoviePipelineExecutorJob;
 
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnMoviePipelineIndividualJobStartedNative, UMoviePipelineExecutorJob* /*StartingJob*/);
 
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINEEDITOR_API UMoviePipelinePIEExecutor : public UMoviePipelineLinearExecutorBase, public FTickableEditorObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINEEDITOR_API) UMoviePipelinePIEExecutor : public UMoviePipelineLinearExecutorBase, public FTickableEditorObject
 {
-	STANDIN_CLASS_BODY(UMoviePipelinePIEExecutor, UMoviePipelineLinearExecutorBase, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelinePIEExecutor, UMoviePipelineLinearExecutorBase, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
-	UMoviePipelinePIEExecutor();
+	UE_API UMoviePipelinePIEExecutor();
 
 	// Told when a job's pipeline finished its work, before the executor moves on.
 	FMoviePipelineWorkFinishedNative& OnIndividualJobWorkFinished() { return OnIndividualJobWorkFinishedDelegateNative; }
@@ -42,14 +44,14 @@ public:
 	void SetAllowUsingUnsavedLevels(const bool bInAllowUsingUnsavedLevels) { bAllowUsingUnsavedLevels = bInAllowUsingUnsavedLevels; }
 
 	// FTickableEditorObject: the tick after a job starts, play-in-editor is up and the job's pipeline is created.
-	virtual void Tick(float DeltaTime) override;
-	virtual bool IsTickable() const override;
+	UE_API virtual void Tick(float DeltaTime) override;
+	UE_API virtual bool IsTickable() const override;
 
 protected:
-	virtual void Start(const UMoviePipelineExecutorJob* InJob) override;
-	virtual void CancelCurrentJob_Implementation() override;
-	virtual void CancelAllJobs_Implementation() override;
-	virtual void OnIndividualPipelineFinished(UMoviePipelineBase* FinishedPipeline) override;
+	UE_API virtual void Start(const UMoviePipelineExecutorJob* InJob) override;
+	UE_API virtual void CancelCurrentJob_Implementation() override;
+	UE_API virtual void CancelAllJobs_Implementation() override;
+	UE_API virtual void OnIndividualPipelineFinished(UMoviePipelineBase* FinishedPipeline) override;
 
 private:
 	void OnPIEStartupFinished();
@@ -71,3 +73,5 @@ private:
 	bool bAllowUsingUnsavedLevels;
 	FDateTime CustomInitializationTime;
 };
+
+#undef UE_API

@@ -6,39 +6,41 @@
 #include "EditorSubsystem.h"
 #include "MoviePipelineExecutor.h"
 #include "MoviePipelineQueue.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Templates/SubclassOf.h"
 #include "UObject/ObjectPtr.h"
+
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINEEDITOR_API)
 
 // Stand-in choice: a native multicast delegate; the engine's is a dynamic one, assignable from Blueprints.
 DECLARE_MULTICAST_DELEGATE(FOnMoviePipelineQueueLoaded);
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINEEDITOR_API UMoviePipelineQueueSubsystem : public UEditorSubsystem
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINEEDITOR_API) UMoviePipelineQueueSubsystem : public UEditorSubsystem
 {
-	STANDIN_CLASS_BODY(UMoviePipelineQueueSubsystem, UEditorSubsystem, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineQueueSubsystem, UEditorSubsystem, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
-	UMoviePipelineQueueSubsystem();
+	UE_API UMoviePipelineQueueSubsystem();
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline|Queue")
 	UMoviePipelineQueue* GetQueue() const { return CurrentQueue; }
 
 	// Creates an executor of the type and renders the editor's queue with it; null when a render is in progress.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
-	UMoviePipelineExecutorBase* RenderQueueWithExecutor(TSubclassOf<UMoviePipelineExecutorBase> InExecutorType);
+	UE_API UMoviePipelineExecutorBase* RenderQueueWithExecutor(TSubclassOf<UMoviePipelineExecutorBase> InExecutorType);
 
 	// Renders the editor's queue with the executor, which becomes the active executor until it finishes.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
-	void RenderQueueWithExecutorInstance(UMoviePipelineExecutorBase* InExecutor);
+	UE_API void RenderQueueWithExecutorInstance(UMoviePipelineExecutorBase* InExecutor);
 
-#if ENGINE_MAJOR_VERSION > 5 || ENGINE_MINOR_VERSION >= 6
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
 	// Stand-in choice: offered from 5.6, the first version these are believed to exist in.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
-	UMoviePipelineExecutorBase* RenderQueueInstanceWithExecutor(UMoviePipelineQueue* InQueue, TSubclassOf<UMoviePipelineExecutorBase> InExecutorType);
+	UE_API UMoviePipelineExecutorBase* RenderQueueInstanceWithExecutor(UMoviePipelineQueue* InQueue, TSubclassOf<UMoviePipelineExecutorBase> InExecutorType);
 
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Rendering")
-	void RenderQueueInstanceWithExecutorInstance(UMoviePipelineQueue* InQueue, UMoviePipelineExecutorBase* InExecutor);
+	UE_API void RenderQueueInstanceWithExecutorInstance(UMoviePipelineQueue* InQueue, UMoviePipelineExecutorBase* InExecutor);
 #endif
 
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline|Rendering")
@@ -50,11 +52,11 @@ public:
 
 	// True when the queue has jobs but was never saved or loaded, or when it was modified since.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Pipeline|Queue")
-	bool IsQueueDirty() const;
+	UE_API bool IsQueueDirty() const;
 
 	// Replaces the editor queue's jobs with copies of the saved queue's and refreshes their shot lists.
 	UFUNCTION(BlueprintCallable, Category = "Movie Render Pipeline|Queue")
-	bool LoadQueue(UMoviePipelineQueue* QueueToLoad, const bool bPromptOnReplacingDirtyQueue = true);
+	UE_API bool LoadQueue(UMoviePipelineQueue* QueueToLoad, const bool bPromptOnReplacingDirtyQueue = true);
 
 	UPROPERTY(BlueprintAssignable, Category = "Movie Render Pipeline|Queue")
 	FOnMoviePipelineQueueLoaded OnQueueLoaded;
@@ -71,3 +73,5 @@ private:
 	bool RefreshShotListsFromSequences();
 	void OnExecutorFinished(UMoviePipelineExecutorBase* InPipelineExecutor, bool bSuccess);
 };
+
+#undef UE_API

@@ -8,15 +8,17 @@
 #include "UObject/SoftObjectPath.h"
 #include "UObject/SoftObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINEEDITOR_API)
+
 class UMovieGraphConfig;
 
 UCLASS(MinimalAPI, BlueprintType, Config = Editor, defaultconfig)
-class MOVIERENDERPIPELINEEDITOR_API UMovieRenderPipelineProjectSettings : public UDeveloperSettings
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINEEDITOR_API) UMovieRenderPipelineProjectSettings : public UDeveloperSettings
 {
-	STANDIN_CLASS_BODY(UMovieRenderPipelineProjectSettings, UDeveloperSettings, MOVIERENDERPIPELINEEDITOR_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMovieRenderPipelineProjectSettings, UDeveloperSettings, MOVIERENDERPIPELINEEDITOR_API)
 
 public:
-	UMovieRenderPipelineProjectSettings();
+	UE_API UMovieRenderPipelineProjectSettings();
 
 	// Where the editor saves presets by default.
 	UPROPERTY(Config, EditAnywhere, Category = "Movie Render Pipeline", meta = (ContentDir))
@@ -50,3 +52,5 @@ public:
 	UPROPERTY(Config, EditAnywhere, BlueprintReadWrite, Category = "Movie Render Graph")
 	TSoftObjectPtr<UMovieGraphConfig> DefaultGraph;
 };
+
+#undef UE_API

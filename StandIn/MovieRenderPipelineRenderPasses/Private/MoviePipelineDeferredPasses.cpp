@@ -70,7 +70,7 @@ FText UMoviePipelineDeferredPass_PathTracer::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPassBase, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPassBase, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	constexpr EPropertyFlags EditableFlags = CPF_Edit | CPF_BlueprintVisible;
 	STANDIN_PROPERTY(bAccumulatorIncludesAlpha, EditableFlags);
@@ -81,23 +81,23 @@ STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPassBase, CLASS_None, "MovieRender
 	STANDIN_PROPERTY(DataLayers, EditableFlags)->SetMetaData(TEXT("AllowedClasses"), TEXT("/Script/Engine.DataLayerAsset"));
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_Unlit, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPass_Unlit, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_DetailLighting, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPass_DetailLighting, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_LightingOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPass_LightingOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_ReflectionsOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPass_ReflectionsOnly, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineDeferredPass_PathTracer, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineDeferredPass_PathTracer, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	STANDIN_PROPERTY(bReferenceMotionBlur, CPF_Edit | CPF_BlueprintVisible);
 }

@@ -19,7 +19,7 @@ FText UMoviePipelineImageSequenceOutput_EXR::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_EXR, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_EXR, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	STANDIN_PROPERTY(Compression, CPF_Edit | CPF_BlueprintVisible);
 	STANDIN_PROPERTY(bMultilayer, CPF_Edit | CPF_BlueprintVisible);

@@ -4,6 +4,6 @@
 
 UMoviePipelineImagePassBase::UMoviePipelineImagePassBase() = default;
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImagePassBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImagePassBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
 {
 }

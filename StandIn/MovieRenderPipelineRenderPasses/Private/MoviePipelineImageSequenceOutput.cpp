@@ -2,6 +2,7 @@
 
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
+#include "Misc/StringFormatArg.h"
 #include "MoviePipeline.h"
 #include "MoviePipelineImageFileWriter.h"
 #include "MoviePipelineOutputSetting.h"
@@ -13,8 +14,8 @@
 namespace UE::MoviePipeline::Private
 {
 	// Puts {render_pass} in a name that several passes share, and {file_dup} before the frame number (so that a
-	// "_(2)" duplicate still reads as an image sequence), or at the end.
-	static void ValidateOutputFormatString(FString& InOutFilenameFormatString, const bool bTestRenderPass)
+	// "_(2)" duplicate still reads as an image sequence), or at the end. False when the name has no frame number.
+	static bool ValidateOutputFormatString(FString& InOutFilenameFormatString, const bool bTestRenderPass)
 	{
 		static const TCHAR* const FrameNumberIdentifiers[] = { TEXT("{frame_number}"), TEXT("{frame_number_shot}"), TEXT("{frame_number_rel}"), TEXT("{frame_number_shot_rel}") };
 		auto FindFrameNumber = [&InOutFilenameFormatString]()
@@ -43,11 +44,7 @@ namespace UE::MoviePipeline::Private
 			}
 		}
 		const int32 FrameNumberIndex = FindFrameNumber();
-		if (FrameNumberIndex == INDEX_NONE)
-		{
-			UE_LOG(LogMovieRenderPipeline, Warning, TEXT("Frame number identifier not found. Files may be overwritten."));
-		}
-		else
+		if (FrameNumberIndex != INDEX_NONE)
 		{
 			InOutFilenameFormatString.InsertAt(FrameNumberIndex, TEXT("{file_dup}"));
 		}
@@ -55,10 +52,22 @@ namespace UE::MoviePipeline::Private
 		{
 			InOutFilenameFormatString += TEXT("{file_dup}");
 		}
+		return FrameNumberIndex != INDEX_NONE;
 	}
 }
 
-UMoviePipelineImageSequenceOutputBase::UMoviePipelineImageSequenceOutputBase() = default;
+UMoviePipelineImageSequenceOutputBase::UMoviePipelineImageSequenceOutputBase()
+	: bWarnedMissingFrameNumber(false)
+	, bReportedWriteFailure(false)
+{
+}
+
+void UMoviePipelineImageSequenceOutputBase::SetupForPipelineImpl(UMoviePipeline* InPipeline)
+{
+	Super::SetupForPipelineImpl(InPipeline);
+	bWarnedMissingFrameNumber = false;
+	bReportedWriteFailure = false;
+}
 
 void UMoviePipelineImageSequenceOutputBase::OnReceiveImageDataImpl(FMoviePipelineMergerOutputFrame* InMergedOutputFrame)
 {
@@ -70,19 +79,32 @@ void UMoviePipelineImageSequenceOutputBase::OnReceiveImageDataImpl(FMoviePipelin
 		return;
 	}
 	FString FileNameFormatString = FPaths::Combine(OutputSettings->OutputDirectory.Path, OutputSettings->FileNameFormat);
-	UE::MoviePipeline::Private::ValidateOutputFormatString(FileNameFormatString, InMergedOutputFrame->ExpectedRenderPasses.Num() > 1);
+	const bool bHasFrameNumber = UE::MoviePipeline::Private::ValidateOutputFormatString(FileNameFormatString, InMergedOutputFrame->ExpectedRenderPasses.Num() > 1);
+	// Stand-in choice: the warning is given once per render instead of once per frame.
+	if (!bHasFrameNumber && !bWarnedMissingFrameNumber)
+	{
+		bWarnedMissingFrameNumber = true;
+		UE_LOG(LogMovieRenderPipeline, Warning, TEXT("Frame number identifier not found. Files may be overwritten."));
+	}
 
 	const TArray<uint8> ImageBytes = UE::MoviePipeline::StandIn::EncodeFrameImage(OutputFormatExtension);
 	for (const FMoviePipelinePassIdentifier& RenderPass : InMergedOutputFrame->ExpectedRenderPasses)
 	{
-		TMap<FString, FString> FormatOverrides;
+		FStringFormatNamedArguments FormatOverrides;
 		FormatOverrides.Add(TEXT("render_pass"), RenderPass.Name);
 		FormatOverrides.Add(TEXT("ext"), OutputFormatExtension);
 		FString OutputPath;
 		FMoviePipelineFormatArgs FinalFormatArgs;
 		Pipeline->ResolveFilenameFormatArguments(FileNameFormatString, FormatOverrides, OutputPath, FinalFormatArgs, &InMergedOutputFrame->FrameOutputState);
-		if (!FFileHelper::SaveArrayToFile(ImageBytes, *OutputPath))
+		// An empty path is one the pipeline refused to write.
+		if (OutputPath.IsEmpty())
 		{
+			continue;
+		}
+		// Stand-in choice: only the first failed write of a render is logged, so that a folder that cannot be written does not flood the log.
+		if (!FFileHelper::SaveArrayToFile(ImageBytes, *OutputPath) && !bReportedWriteFailure)
+		{
+			bReportedWriteFailure = true;
 			UE_LOG(LogMovieRenderPipeline, Error, TEXT("Failed to write image to '%s'."), *OutputPath);
 		}
 	}
@@ -121,19 +143,19 @@ FText UMoviePipelineImageSequenceOutput_JPG::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutputBase, CLASS_Abstract, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_BMP, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_PNG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	STANDIN_PROPERTY(bWriteAlpha, CPF_Edit | CPF_BlueprintVisible);
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineImageSequenceOutput_JPG, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 }

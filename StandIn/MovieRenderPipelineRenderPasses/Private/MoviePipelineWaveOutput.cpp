@@ -12,7 +12,7 @@ FText UMoviePipelineWaveOutput::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineWaveOutput, CLASS_None, "MovieRenderPipelineRenderPasses")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineWaveOutput, CLASS_None, "MovieRenderPipelineRenderPasses")
 {
 	STANDIN_PROPERTY(FileNameFormatOverride, CPF_Edit | CPF_BlueprintVisible);
 }

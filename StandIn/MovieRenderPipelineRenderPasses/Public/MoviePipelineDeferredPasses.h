@@ -5,17 +5,19 @@
 #include "MoviePipelineImagePassBase.h"
 #include "UObject/SoftObjectPath.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINERENDERPASSES_API)
+
 // Stand-in choice: the post-process material and actor layer lists are left out (no materials or actor layers here).
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPassBase : public UMoviePipelineImagePassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPassBase : public UMoviePipelineImagePassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPassBase, UMoviePipelineImagePassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPassBase, UMoviePipelineImagePassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPassBase();
+	UE_API UMoviePipelineDeferredPassBase();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Settings")
@@ -38,70 +40,72 @@ public:
 };
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_Unlit : public UMoviePipelineDeferredPassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPass_Unlit : public UMoviePipelineDeferredPassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_Unlit, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPass_Unlit, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPass_Unlit();
+	UE_API UMoviePipelineDeferredPass_Unlit();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 };
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_DetailLighting : public UMoviePipelineDeferredPassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPass_DetailLighting : public UMoviePipelineDeferredPassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_DetailLighting, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPass_DetailLighting, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPass_DetailLighting();
+	UE_API UMoviePipelineDeferredPass_DetailLighting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 };
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_LightingOnly : public UMoviePipelineDeferredPassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPass_LightingOnly : public UMoviePipelineDeferredPassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_LightingOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPass_LightingOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPass_LightingOnly();
+	UE_API UMoviePipelineDeferredPass_LightingOnly();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 };
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_ReflectionsOnly : public UMoviePipelineDeferredPassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPass_ReflectionsOnly : public UMoviePipelineDeferredPassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_ReflectionsOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPass_ReflectionsOnly, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPass_ReflectionsOnly();
+	UE_API UMoviePipelineDeferredPass_ReflectionsOnly();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 };
 
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineDeferredPass_PathTracer : public UMoviePipelineDeferredPassBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineDeferredPass_PathTracer : public UMoviePipelineDeferredPassBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineDeferredPass_PathTracer, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineDeferredPass_PathTracer, UMoviePipelineDeferredPassBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineDeferredPass_PathTracer();
+	UE_API UMoviePipelineDeferredPass_PathTracer();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 
 	// Blends all samples before denoising and turns off post-processed motion blur.
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Reference Motion Blur")
 	bool bReferenceMotionBlur;
 };
+
+#undef UE_API

@@ -4,6 +4,8 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineImageSequenceOutput.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINERENDERPASSES_API)
+
 UENUM(BlueprintType)
 enum class EEXRCompressionFormat : uint8
 {
@@ -21,15 +23,15 @@ enum class EEXRCompressionFormat : uint8
 STANDIN_DECLARE_ENUM(EEXRCompressionFormat, MOVIERENDERPIPELINERENDERPASSES_API)
 
 UCLASS(MinimalAPI)
-class MOVIERENDERPIPELINERENDERPASSES_API UMoviePipelineImageSequenceOutput_EXR : public UMoviePipelineImageSequenceOutputBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMoviePipelineImageSequenceOutput_EXR : public UMoviePipelineImageSequenceOutputBase
 {
-	STANDIN_CLASS_BODY(UMoviePipelineImageSequenceOutput_EXR, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineImageSequenceOutput_EXR, UMoviePipelineImageSequenceOutputBase, MOVIERENDERPIPELINERENDERPASSES_API)
 
 public:
-	UMoviePipelineImageSequenceOutput_EXR();
+	UE_API UMoviePipelineImageSequenceOutput_EXR();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "EXR")
@@ -42,3 +44,5 @@ public:
 protected:
 	virtual bool IsAlphaAllowed() const override { return true; }
 };
+
+#undef UE_API

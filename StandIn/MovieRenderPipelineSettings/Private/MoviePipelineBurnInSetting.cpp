@@ -17,7 +17,7 @@ FText UMoviePipelineBurnInSetting::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineBurnInSetting, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineBurnInSetting, CLASS_None, "MovieRenderPipelineSettings")
 {
 	STANDIN_PROPERTY(BurnInClass, CPF_Edit | CPF_BlueprintVisible);
 	STANDIN_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);

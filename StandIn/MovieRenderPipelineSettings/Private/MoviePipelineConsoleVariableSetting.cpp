@@ -75,7 +75,7 @@ bool UMoviePipelineConsoleVariableSetting::UpdateConsoleVariableEnableState(cons
 	return true;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineConsoleVariableSetting, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineConsoleVariableSetting, CLASS_None, "MovieRenderPipelineSettings")
 {
 	STANDIN_PROPERTY(ConsoleVariables_DEPRECATED, CPF_Deprecated)->SetMetaData(TEXT("DeprecatedProperty"), TEXT(""));
 	STANDIN_PROPERTY(StartConsoleCommands, CPF_Edit | CPF_BlueprintVisible);

@@ -14,7 +14,7 @@ FText UMoviePipelineWidgetRenderer::GetDisplayText() const
 }
 #endif
 
-STANDIN_IMPLEMENT_CLASS(UMoviePipelineWidgetRenderer, CLASS_None, "MovieRenderPipelineSettings")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMoviePipelineWidgetRenderer, CLASS_None, "MovieRenderPipelineSettings")
 {
 	STANDIN_PROPERTY(bCompositeOntoFinalImage, CPF_Edit | CPF_BlueprintVisible);
 }

@@ -5,16 +5,18 @@
 #include "MoviePipelineRenderPass.h"
 #include "UObject/SoftObjectPath.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINESETTINGS_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineBurnInSetting : public UMoviePipelineRenderPass
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINESETTINGS_API) UMoviePipelineBurnInSetting : public UMoviePipelineRenderPass
 {
-	STANDIN_CLASS_BODY(UMoviePipelineBurnInSetting, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineBurnInSetting, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
 
 public:
-	UMoviePipelineBurnInSetting();
+	UE_API UMoviePipelineBurnInSetting();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 
 	// The widget a new burn-in setting draws.
@@ -27,3 +29,5 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Widget Settings")
 	bool bCompositeOntoFinalImage;
 };
+
+#undef UE_API

@@ -4,19 +4,23 @@
 #include "CoreMinimal.h"
 #include "MoviePipelineRenderPass.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINESETTINGS_API)
+
 UCLASS(MinimalAPI, Blueprintable)
-class MOVIERENDERPIPELINESETTINGS_API UMoviePipelineWidgetRenderer : public UMoviePipelineRenderPass
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINESETTINGS_API) UMoviePipelineWidgetRenderer : public UMoviePipelineRenderPass
 {
-	STANDIN_CLASS_BODY(UMoviePipelineWidgetRenderer, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineWidgetRenderer, UMoviePipelineRenderPass, MOVIERENDERPIPELINESETTINGS_API)
 
 public:
-	UMoviePipelineWidgetRenderer();
+	UE_API UMoviePipelineWidgetRenderer();
 
 #if WITH_EDITOR
-	virtual FText GetDisplayText() const override;
+	UE_API virtual FText GetDisplayText() const override;
 #endif
 
 	// Whether the widgets are drawn onto the final image instead of written as a separate layer.
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Widget Settings")
 	bool bCompositeOntoFinalImage;
 };
+
+#undef UE_API

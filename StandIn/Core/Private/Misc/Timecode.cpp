@@ -149,7 +149,7 @@ bool FTimecode::UseDropFormatTimecodeByDefaultWhenSupported()
 	return true;
 }
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 FString FTimecode::ToString(bool bForceSignDisplay, bool bAlwaysDisplaySubframe) const
 #else
 FString FTimecode::ToString(bool bForceSignDisplay) const
@@ -162,7 +162,7 @@ FString FTimecode::ToString(bool bForceSignDisplay) const
 	FString Result = FString::Printf(TEXT("%s%02lld:%02lld:%02lld%s%02lld"), SignText, (long long)AbsoluteValue(Hours), (long long)AbsoluteValue(Minutes),
 		(long long)AbsoluteValue(Seconds), FrameSeparator, (long long)AbsoluteValue(Frames));
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	if (bAlwaysDisplaySubframe)
 	{
 		const float Hundredths = std::isnan(Subframe) ? 0.f : FMath::Clamp(100.f * Subframe, 0.f, 99.f);

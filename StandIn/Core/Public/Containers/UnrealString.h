@@ -3,6 +3,7 @@
 
 #include "CoreTypes.h"
 #include "Containers/Array.h"
+#include "Containers/ContainersFwd.h"
 #include "Containers/StringView.h"
 #include "Misc/CString.h"
 #include "Misc/Char.h"
@@ -22,9 +23,13 @@ struct TIsValidVariadicFunctionArg
 };
 
 class FString;
+struct FStringFormatArg;
 const TCHAR* GetData(const FString& String);
 TCHAR* GetData(FString& String);
 int32 GetNum(const FString& String);
+
+/** The named values of FString::Format (include Misc/StringFormatArg.h to fill them). */
+using FStringFormatNamedArguments = TMap<FString, FStringFormatArg>;
 
 /**
  * A string of TCHARs stored in a TArray with a terminating zero; an empty string allocates nothing.
@@ -260,6 +265,13 @@ public:
 		static_assert((TIsValidVariadicFunctionArg<Types>::Value && ...), "Invalid argument(s) passed to FString::Printf");
 		return PrintfImpl((const TCHAR*)Fmt, Args...);
 	}
+
+	/**
+	 * Replaces each {Name} of InFormatString with the argument of that name (names are letters, digits and '_', matched
+	 * ignoring case, with optional spaces inside the braces). Tokens without an argument stay as written; "`{" writes
+	 * "{" and "``" writes "`".
+	 */
+	CORE_API static FString Format(const TCHAR* InFormatString, const FStringFormatNamedArguments& InNamedArguments);
 
 	CORE_API static FString Chr(TCHAR Ch);
 	CORE_API static FString ChrN(int32 NumCharacters, TCHAR Char);

@@ -13,5 +13,7 @@ struct FPlatformMisc
 	CORE_API static void RequestExit(bool Force, const TCHAR* CallSite = nullptr);
 	CORE_API static int32 NumberOfCores();
 	static const TCHAR* GetDefaultPathSeparator() { return TEXT("/"); }
+	/** The longest path the platform accepts, in characters. Stand-in choice: Linux's PATH_MAX, as the engine's Unix platform. */
+	static int32 GetMaxPathLength() { return 4096; }
 	static const TCHAR* GetLineTerminator() { return TEXT("\n"); }
 };

@@ -15,7 +15,7 @@
 #include "Misc/Guid.h"
 #include "Misc/OutputDevice.h"
 #include "Misc/Timespan.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 #include "UObject/NameTypes.h"
 
 #ifndef WITH_DEV_AUTOMATION_TESTS
@@ -52,7 +52,7 @@ enum class EAutomationTestFlags
 	//~ Never returned for a filter
 	Disabled = 0x00010000,
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 7)
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	SupportsAutoRTFM = 0x00020000,
 #endif
 

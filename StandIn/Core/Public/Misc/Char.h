@@ -29,6 +29,7 @@ struct TChar
 	static constexpr bool IsHexDigit(CharType Char) { return IsDigit(Char) || ToUnsigned(Char) - 'a' < 6u || ToUnsigned(Char) - 'A' < 6u; }
 	static constexpr bool IsOctDigit(CharType Char) { return ToUnsigned(Char) - '0' < 8u; }
 	static constexpr bool IsUnderscore(CharType Char) { return Char == (CharType)'_'; }
+	static constexpr bool IsIdentifier(CharType Char) { return IsAlnum(Char) || IsUnderscore(Char); }
 	static constexpr bool IsPrint(CharType Char) { return ToUnsigned(Char) >= 0x20 && ToUnsigned(Char) != 0x7f; }
 	static constexpr bool IsGraph(CharType Char) { return IsPrint(Char) && ToUnsigned(Char) != ' '; }
 	static constexpr bool IsPunct(CharType Char) { return IsGraph(Char) && ToUnsigned(Char) < 0x80 && !IsAlnum(Char); }

@@ -7,7 +7,7 @@
 #include "Misc/FrameRate.h"
 #include "Misc/FrameTime.h"
 #include "Misc/Timespan.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 
 struct FTimecode
 {
@@ -30,7 +30,7 @@ struct FTimecode
 	{
 	}
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	explicit FTimecode(int32 InHours, int32 InMinutes, int32 InSeconds, int32 InFrames, float InSubframe, bool InbDropFrame)
 		: Hours(InHours)
 		, Minutes(InMinutes)
@@ -57,7 +57,7 @@ public:
 	/** The frame number at the given rate, with the timecode's sub-frame. */
 	FFrameTime ToFrameTime(const FFrameRate& InFrameRate) const
 	{
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 		return FFrameTime(ToFrameNumber(InFrameRate), Subframe);
 #else
 		return FFrameTime(ToFrameNumber(InFrameRate));
@@ -78,7 +78,7 @@ public:
 	static FTimecode FromFrameTime(const FFrameTime& InFrameTime, const FFrameRate& InFrameRate, bool bDropFrame)
 	{
 		FTimecode Timecode = FromFrameNumber(InFrameTime.GetFrame(), InFrameRate, bDropFrame);
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 		Timecode.Subframe = InFrameTime.GetSubFrame();
 #endif
 		return Timecode;
@@ -113,7 +113,7 @@ public:
 	/** The engine's console variable timecode.UseDropFormatTimecodeByDefaultWhenSupported, which defaults to on. */
 	CORE_API static bool UseDropFormatTimecodeByDefaultWhenSupported();
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	/**
 	 * "HH:MM:SS:FF", or "HH:MM:SS;FF" in drop-frame format; fields have at least two digits and "- " precedes a negative
 	 * timecode ("+ " a positive one when bForceSignDisplay). bAlwaysDisplaySubframe appends ".ss" (hundredths of a frame).
@@ -129,7 +129,7 @@ public:
 	int32 Seconds;
 	int32 Frames;
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 5)
+#if !UE_VERSION_OLDER_THAN(5, 5, 0)
 	/** Fraction of a frame, in [0, 1). */
 	float Subframe = 0.f;
 #endif

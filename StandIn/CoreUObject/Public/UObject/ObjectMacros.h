@@ -3,6 +3,7 @@
 
 #include "CoreMinimal.h"
 #include "Containers/EnumAsByte.h"
+#include "Misc/EngineVersionComparison.h"
 
 #include <type_traits>
 
@@ -506,6 +507,30 @@ public: \
 	template<class> friend void UE::CoreUObject::StandIn::RegisterClassReflection(UClass*); \
 private:
 
+// The exports of a class the engine declares UCLASS(MinimalAPI, ...). Up to 5.6 the engine puts the module's API macro
+// on the class, exporting all of it; from 5.7 the class itself is not exported and each function the engine exports
+// carries the API macro (the UE_API of the engine's headers). A header declares such classes as the engine's 5.7
+// headers do, and the class's source file implements it with STANDIN_IMPLEMENT_MINIMALAPI_CLASS:
+//	#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+//	UCLASS(MinimalAPI, BlueprintType)
+//	class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMoviePipelineQueue : public UObject
+//	{
+//		STANDIN_MINIMALAPI_CLASS_BODY(UMoviePipelineQueue, UObject, MOVIERENDERPIPELINECORE_API)
+//	public:
+//		UE_API void DeleteJob(UMoviePipelineExecutorJob* InJob);
+//	};
+//	#undef UE_API
+// A function the engine does not export gets no UE_API, so that calling it from another module fails to link from 5.7
+// on, as it does in the engine. Virtual functions keep UE_API wherever they are declared: a subclass in another module
+// fills its virtual table with them.
+#if UE_VERSION_OLDER_THAN(5, 7, 0)
+	#define STANDIN_MINIMALAPI_CLASS(TApi) TApi
+	#define STANDIN_MINIMALAPI_FUNCTION(TApi)
+#else
+	#define STANDIN_MINIMALAPI_CLASS(TApi)
+	#define STANDIN_MINIMALAPI_FUNCTION(TApi) TApi
+#endif
+
 // Defines the class object of a native class; the braces that follow are the body of its reflection registration:
 //	STANDIN_IMPLEMENT_CLASS(UMoviePipelineQueue, CLASS_None, "MovieRenderPipelineCore")
 //	{
@@ -534,6 +559,21 @@ private:
 	} \
 	static UE::CoreUObject::StandIn::FNativeClassRegistrant GStandInRegistrant_##TClass(&TClass::StaticClass); \
 	void TClass::StandInRegisterReflection(TStandInTypeBuilder<TClass>& Builder)
+
+// The body of a UCLASS(MinimalAPI) class: STANDIN_CLASS_BODY, which exports StaticClass, and the destructor declared out
+// of line and exported, as the engine's generated body does. The class's virtual table has the class's visibility, so
+// a subclass in another module must destroy its base through this exported destructor instead of an inline one.
+#define STANDIN_MINIMALAPI_CLASS_BODY(TClass, TSuperClass, TApi) \
+	STANDIN_CLASS_BODY(TClass, TSuperClass, TApi) \
+public: \
+	TApi virtual ~TClass(); \
+private:
+
+// Defines the class object and the destructor of a class declared with STANDIN_MINIMALAPI_CLASS_BODY; braces follow as
+// for STANDIN_IMPLEMENT_CLASS.
+#define STANDIN_IMPLEMENT_MINIMALAPI_CLASS(TClass, TClassFlags, TModuleName) \
+	TClass::~TClass() = default; \
+	STANDIN_IMPLEMENT_CLASS(TClass, TClassFlags, TModuleName)
 
 #define STANDIN_SUPER_STATIC_CLASS(TClass) \
 	(std::is_same_v<TClass, TClass::Super> ? nullptr : &TClass::Super::StaticClass)

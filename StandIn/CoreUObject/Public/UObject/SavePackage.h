@@ -3,7 +3,7 @@
 
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 
 class ITargetPlatform;
 class FSavePackageContext;
@@ -39,7 +39,7 @@ enum class ESavePackageResult
 	Error,
 	Canceled,
 	ContainsEditorOnlyData,
-#if ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION < 7
+#if UE_VERSION_OLDER_THAN(5, 7, 0)
 	ReferencedOnlyByEditorOnlyData,
 #endif
 	ReplaceCompletely,

@@ -4,7 +4,7 @@
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/TopLevelAssetPath.h"
-#include "Runtime/Launch/Resources/Version.h"
+#include "Misc/EngineVersionComparison.h"
 
 #include <type_traits>
 
@@ -101,7 +101,7 @@ inline T* FindFirstObject(const TCHAR* Name, EFindFirstObjectOptions Options = E
 	Loading objects. 5.7 takes string views where 5.5 and 5.6 take TCHAR pointers.
 -----------------------------------------------------------------------------*/
 
-#if ENGINE_MAJOR_VERSION > 5 || (ENGINE_MAJOR_VERSION == 5 && ENGINE_MINOR_VERSION >= 7)
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 // Finds the object, else loads its package and finds it; null (with a warning unless LOAD_NoWarn/LOAD_Quiet) on failure.
 COREUOBJECT_API UObject* StaticLoadObject(UClass* Class, UObject* InOuter, FStringView Name, FStringView Filename = {}, uint32 LoadFlags = LOAD_None, UPackageMap* Sandbox = nullptr, bool bAllowObjectReconciliation = true, const FLinkerInstancingContext* InstancingContext = nullptr);
 COREUOBJECT_API UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, FStringView Name, FStringView Filename = {}, uint32 LoadFlags = LOAD_None, UPackageMap* Sandbox = nullptr);

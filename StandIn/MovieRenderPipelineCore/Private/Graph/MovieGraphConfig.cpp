@@ -4,6 +4,6 @@
 
 UMovieGraphConfig::UMovieGraphConfig() = default;
 
-STANDIN_IMPLEMENT_CLASS(UMovieGraphConfig, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphConfig, CLASS_None, "MovieRenderPipelineCore")
 {
 }

@@ -14,7 +14,7 @@ void UMovieGraphPipeline::ShutdownImpl(bool bIsError)
 	PipelineState = EMovieRenderPipelineState::Finished;
 }
 
-STANDIN_IMPLEMENT_CLASS(UMovieGraphPipeline, CLASS_None, "MovieRenderPipelineCore")
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphPipeline, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(CurrentJobDuplicate, CPF_Transient);
 	STANDIN_PROPERTY(ActiveShotList, CPF_Transient);

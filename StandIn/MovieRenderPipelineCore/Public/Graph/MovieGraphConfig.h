@@ -4,12 +4,16 @@
 #include "CoreMinimal.h"
 #include "UObject/Object.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 // Stand-in choice: only a savable, loadable asset a job can name as its graph preset; the graph work adds nodes and members.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMovieGraphConfig : public UObject
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphConfig : public UObject
 {
-	STANDIN_CLASS_BODY(UMovieGraphConfig, UObject, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMovieGraphConfig, UObject, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMovieGraphConfig();
+	UE_API UMovieGraphConfig();
 };
+
+#undef UE_API

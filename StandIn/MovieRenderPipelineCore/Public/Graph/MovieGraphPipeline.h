@@ -6,17 +6,19 @@
 #include "MoviePipelineBase.h"
 #include "UObject/ObjectPtr.h"
 
+#define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
+
 class UMoviePipelineExecutorJob;
 class UMoviePipelineExecutorShot;
 
 // Stand-in choice: declared with its job-facing queries only; rendering a graph is not offered yet.
 UCLASS(MinimalAPI, BlueprintType)
-class MOVIERENDERPIPELINECORE_API UMovieGraphPipeline : public UMoviePipelineBase
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphPipeline : public UMoviePipelineBase
 {
-	STANDIN_CLASS_BODY(UMovieGraphPipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
+	STANDIN_MINIMALAPI_CLASS_BODY(UMovieGraphPipeline, UMoviePipelineBase, MOVIERENDERPIPELINECORE_API)
 
 public:
-	UMovieGraphPipeline();
+	UE_API UMovieGraphPipeline();
 
 	// The copy of the job this pipeline renders.
 	UFUNCTION(BlueprintPure, Category = "Movie Render Graph")
@@ -32,7 +34,7 @@ public:
 	FDateTime GetInitializationTime() const { return InitializationTime; }
 
 protected:
-	virtual void ShutdownImpl(bool bIsError) override;
+	UE_API virtual void ShutdownImpl(bool bIsError) override;
 
 private:
 	UPROPERTY(Transient)
@@ -44,3 +46,5 @@ private:
 	int32 CurrentShotIndex;
 	FDateTime InitializationTime;
 };
+
+#undef UE_API
