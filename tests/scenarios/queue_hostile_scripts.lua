@@ -140,13 +140,17 @@ local longest = "/Game/" .. string.rep("y", 1017)
 long_job:set_sequence(longest)
 check.eq(mrq_get_job(1):info().sequence, longest, "1023 characters still fit")
 
--- A map path must start at a mount point: the engine would refuse a short package name with an ensure.
+-- A map path the engine would meet with an ensure (a short package name, an object part with no mount point) is refused.
 editor.clear_log()
 check.eq(long_job:set_map("?"), nil, "a short package name")
+check.eq(long_job:set_map("Fz/../../Fz/Q1"), nil, "an object part without a mount point")
 check.eq(select("#", long_job:set_map("Maps/Main")), 0, "a relative path with a folder is stored as given")
+check.eq(select("#", long_job:set_map("/Game/Fz/../Q1")), 0, "a path from a mount point is stored as given")
 check.lines({
-	"[FAIL] set_map -> '?' is a short package name; a path starts at a mount point such as /Game/",
+	"[FAIL] set_map -> '?' is not a path the engine can store; a path starts at a mount point such as /Game/",
+	"[FAIL] set_map -> 'Fz/../../Fz/Q1' is not a path the engine can store; a path starts at a mount point such as /Game/",
 	"[OK] set_map -> Maps/Main",
+	"[OK] set_map -> /Game/Fz/../Q1",
 }, "map paths")
 
 -- A save path that is no package name cannot reach a file outside the project's content.

@@ -105,23 +105,36 @@ namespace VLMR
 		return NoValue();
 	}
 
-	// The engine refuses a soft path to a short package name (one without a mount point) with an ensure.
-	static bool CheckLongPackagePath(FLuaSessionData& Session, const TCHAR* Label, const FString& Path)
+	// Whether the engine stores the text as a soft path without an ensure: no short package name, and no object part
+	// unless the path starts at a mount point.
+	static bool IsStorableSoftPath(const FString& Text)
 	{
-		const bool bStorable = Path.IsEmpty() || Path == TEXT("None") || !FPackageName::IsShortPackageName(FPackageName::ExportTextPathToObjectPath(Path));
+		if (Text.IsEmpty() || Text == TEXT("None"))
+		{
+			return true;
+		}
+		const FString Path = Text.StartsWith(TEXT("/")) ? Text : FPackageName::ExportTextPathToObjectPath(Text);
+		int32 Separator = INDEX_NONE;
+		const bool bNamesObject = Path.FindChar(TEXT('.'), Separator) || Path.FindChar(TEXT(':'), Separator);
+		return !FPackageName::IsShortPackageName(Path) && (Path.StartsWith(TEXT("/")) || !bNamesObject);
+	}
+
+	static bool CheckStorableSoftPath(FLuaSessionData& Session, const TCHAR* Label, const FString& Path)
+	{
+		const bool bStorable = IsStorableSoftPath(Path);
 		if (!bStorable)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("'%s' is a short package name; a path starts at a mount point such as /Game/"), *Path));
+			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("'%s' is not a path the engine can store; a path starts at a mount point such as /Game/"), *Path));
 		}
 		return bStorable;
 	}
 
-	// A setter whose text becomes a soft path: refused when it cannot be an engine name or names no mount point.
+	// A setter whose text becomes a soft path: refused when it cannot be an engine name or a stored path.
 	template<class TEdit>
 	static sol::variadic_results EditJobPath(sol::state_view Lua, const FWeakJob& WeakJob, FLuaSessionData& Session, const TCHAR* Label, const FString& Path, TEdit&& Edit)
 	{
 		return EditJob(Lua, WeakJob, Session, Label, [&](UMoviePipelineExecutorJob& Job) -> TOptional<FString> {
-			if (!CheckEngineNameLength(Session, Label, Path) || !CheckLongPackagePath(Session, Label, Path))
+			if (!CheckEngineNameLength(Session, Label, Path) || !CheckStorableSoftPath(Session, Label, Path))
 			{
 				return {};
 			}
