@@ -14,8 +14,8 @@
 -- allocations differ slightly between processes (its string hash seed is random), so the automatic collector would
 -- run finalizers at other calls in a replay. With FUZZ_LUA_GC=explicit (the default) it runs only as a full
 -- collection at seeded points, metamethods called inside binding calls included; with FUZZ_LUA_GC=auto it runs on
--- its own, aggressively, so that finalizers also run at any allocation inside a binding, and a replay may diverge
--- after the first finalizer.
+-- its own with a short pause, so that finalizers also run at the allocations inside a binding, and a replay may
+-- diverge after the first finalizer.
 
 local LIBRARY_DIR = (debug.getinfo(1, "S").source:match("^@(.*[/\\])") or "./") .. "lib/"
 
@@ -27,6 +27,7 @@ local trace = load_library("trace")
 local values = load_library("values", trace)
 local targets = load_library("targets")
 local actions = load_library("actions", trace, values, targets)
+local steps = load_library("steps", trace, values, targets, actions)
 
 local function integer_setting(name, default)
 	local text = os.getenv(name)
@@ -59,7 +60,8 @@ local function new_context()
 	local bare_userdata = assert(io.open("/dev/null"))
 	debug.setmetatable(bare_userdata, nil)
 	return {
-		call = 0, handles = {}, recent_handles = {}, handle_count = 0, harvested = {}, harvested_set = {},
+		call = 0, pending_steps = {}, handles = {}, recent_handles = {}, handle_count = 0,
+		harvested = {}, harvested_set = {},
 		ring = trace.new_ring(settings.history), failures = {}, failure_by_signature = {}, pending_failures = {},
 		stats = {}, corpus = {}, callback_depth = 0, subsystem_removal_allowed = false,
 		bare_userdata = bare_userdata, spare_userdata = { assert(io.open("/dev/null")), assert(io.open("/dev/null")) },
@@ -67,6 +69,7 @@ local function new_context()
 end
 
 local fz = new_context()
+
 -- Removing the queue subsystem is for good in a session: it is allowed from a seeded call on, and the run ends
 -- soon after it, since little is left to reach without the queue.
 local SUBSYSTEM_REMOVAL_EARLIEST, SUBSYSTEM_REMOVAL_LATEST = 2000, 40000
@@ -97,7 +100,7 @@ end
 local function report_history()
 	trace.report("  the last calls:")
 	for _, entry in ipairs(trace.recent(fz.ring)) do
-		trace.report(string.format("    #%d %s%s", entry.call, entry.text, entry.result or ""))
+		trace.report(string.format("    #%d %s%s%s", entry.call, entry.text, entry.callbacks or "", entry.result or ""))
 	end
 end
 
@@ -122,11 +125,23 @@ local function record_lua_error(kind, target, message)
 	record_failure(kind, target, message, kind .. ": " .. normalize(message))
 end
 
+-- A callback's code is shown with the call it ran in, since a metamethod or finalizer may be what broke that call.
+local function note_callback(behaviour)
+	local entry = fz.current_entry
+	if entry then
+		entry.callbacks = (entry.callbacks or "") .. " {a callback ran inside: " .. behaviour.text .. "}"
+	end
+	if settings.trace then
+		print(string.format("fuzz #%d   a callback runs inside it: %s", fz.call, behaviour.text))
+	end
+end
+
 -- Metamethods and finalizers run their behaviour at most one level deep and never raise into the binding.
 function fz.run_callback(behaviour)
 	if fz.callback_depth > 0 or (behaviour.removes_subsystem and not fz.subsystem_removal_allowed) then
 		return
 	end
+	note_callback(behaviour)
 	fz.callback_depth = fz.callback_depth + 1
 	local ok, message = pcall(behaviour.run)
 	fz.callback_depth = fz.callback_depth - 1
@@ -146,120 +161,6 @@ function fz.reentrant_value()
 	return actions.new_reentrant_value(fz)
 end
 
-local function maybe_in_coroutine(step)
-	if math.random(40) == 1 then
-		step.in_coroutine = true
-		step.text = "in a coroutine: " .. step.text
-	end
-	return step
-end
-
-local function argument_values(arguments)
-	local list = {}
-	for index = 1, arguments.n do
-		list[index] = arguments[index].value
-	end
-	return list
-end
-
--- Argument lists that made a call succeed are kept per target and reused, often with one argument changed, so that
--- the fuzzer gets past the first check of a function without knowing its signature.
-local CORPUS_SIZE = 8
-
-local function remember_arguments(target, arguments)
-	local corpus = fz.corpus[target]
-	if not corpus then
-		corpus = {}
-		fz.corpus[target] = corpus
-	end
-	if #corpus < CORPUS_SIZE then
-		corpus[#corpus + 1] = arguments
-	else
-		corpus[math.random(CORPUS_SIZE)] = arguments
-	end
-end
-
-local function mutated(arguments)
-	local copy = table.move(arguments, 1, arguments.n, 1, { n = arguments.n })
-	local roll = math.random(4)
-	if roll == 3 and copy.n > 0 then
-		copy[math.random(copy.n)] = values.any(fz)
-	elseif roll == 4 then
-		copy.n = copy.n + 1
-		copy[copy.n] = values.any(fz)
-	end
-	return copy
-end
-
-local function arguments_for(target)
-	local corpus = fz.corpus[target]
-	if corpus and math.random(2) == 1 then
-		return mutated(values.pick(corpus))
-	end
-	return values.arguments(fz)
-end
-
-local function succeeded(results)
-	return results[1] and (results.n == 1 or (results[2] ~= nil and results[2] ~= false))
-end
-
--- A render refuses most queue edits until it ends, so the calls that start one are picked less often.
-local RARE_GLOBALS = { mrq_render_queue = true, mrq_render_job = true }
-
-local function global_choices(globals)
-	local choices = {}
-	for index, global in ipairs(globals) do
-		choices[index] = { RARE_GLOBALS[global.name] and 1 or 5, global }
-	end
-	return choices
-end
-
-local function global_step()
-	local global = values.weighted_pick(fz.global_choices)[2]
-	local arguments = arguments_for(global.name)
-	local list = argument_values(arguments)
-	return maybe_in_coroutine({
-		target = global.name, checked = true, arguments = arguments,
-		text = global.name .. "(" .. trace.arguments(arguments) .. ")",
-		run = function() return global.fn(table.unpack(list, 1, arguments.n)) end,
-	})
-end
-
--- Mostly the handle itself as self; sometimes another handle (of any kind) or any value.
-local function method_self(entry)
-	local roll = math.random(10)
-	if roll <= 7 then
-		return values.arg(entry.table, entry.name)
-	end
-	if roll <= 9 then
-		local other = targets.random_handle(fz)
-		return values.arg(other.table, other.name)
-	end
-	return values.any(fz)
-end
-
-local function method_step()
-	local entry = targets.random_handle(fz)
-	targets.touch_handle(fz, entry)
-	local method = values.pick(entry.methods)
-	local fn = rawget(entry.table, method)
-	local target = entry.kind .. ":" .. method
-	local self = method_self(entry)
-	local arguments = arguments_for(target)
-	local list = argument_values(arguments)
-	local text
-	if self.value == entry.table then
-		text = string.format("%s:%s(%s)", entry.name, method, trace.arguments(arguments))
-	else
-		local separator = arguments.n > 0 and ", " or ""
-		text = string.format("%s.%s(%s%s%s)", entry.name, method, self.text, separator, trace.arguments(arguments))
-	end
-	return maybe_in_coroutine({
-		target = target, checked = true, text = text, arguments = arguments,
-		run = function() return fn(self.value, table.unpack(list, 1, arguments.n)) end,
-	})
-end
-
 -- With the explicit collector, garbage is collected at least every this many calls so that memory stays bounded.
 local HOUSEKEEPING_PERIOD = 100
 
@@ -267,20 +168,7 @@ local function next_step()
 	if settings.lua_gc == "explicit" and (fz.call + 1) % HOUSEKEEPING_PERIOD == 0 then
 		return actions.collect_lua_garbage_step()
 	end
-	local roll = math.random(100)
-	if roll <= 3 then
-		return actions.end_render_step()
-	end
-	if roll <= 15 then
-		local step = actions.random_step(fz)
-		if step then
-			return step
-		end
-	end
-	if roll <= 65 and #fz.handles > 0 then
-		return method_step()
-	end
-	return global_step()
+	return steps.next(fz)
 end
 
 local function count_call(target, argument_error, success)
@@ -338,16 +226,17 @@ local function perform(step)
 	fz.call = fz.call + 1
 	fz.subsystem_removal_allowed = fz.call >= fz.subsystem_removal_call
 	local entry = { call = fz.call, text = step.text }
+	fz.current_entry = entry
 	trace.push(fz.ring, entry)
 	if settings.trace then
 		print(string.format("fuzz #%d %s", fz.call, step.text))
 	end
 	local results = table.pack(run_protected(step))
 	local argument_error = not results[1] and is_argument_error(results[2])
-	local success = succeeded(results)
+	local success = steps.succeeded(results)
 	count_call(step.target, argument_error, success)
 	if success and step.checked and step.arguments then
-		remember_arguments(step.target, step.arguments)
+		steps.remember_arguments(fz, step.target, step.arguments)
 	end
 	if results[1] and step.removes_subsystem then
 		note_subsystem_removal()
@@ -432,7 +321,7 @@ local function run()
 	fz.subsystem_removal_call = math.random(SUBSYSTEM_REMOVAL_EARLIEST, SUBSYSTEM_REMOVAL_LATEST)
 	fz.globals = targets.binding_globals()
 	assert(#fz.globals > 0, "no mrq_/mrg_ globals are installed")
-	fz.global_choices = global_choices(fz.globals)
+	fz.global_choices = steps.global_choices(fz.globals)
 	trace.report(string.format("seed %d, %s calls, %s seconds, Lua collector %s%s", settings.seed,
 		settings.calls > 0 and tostring(settings.calls) or "unlimited",
 		settings.seconds > 0 and tostring(settings.seconds) or "unlimited", settings.lua_gc,

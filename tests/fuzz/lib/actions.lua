@@ -179,6 +179,16 @@ local ACTIONS = {
 	{ 4, drop_finalizers_step },
 }
 
+-- Unloads or deletes the package of a handle's asset, or one of the run's own packages.
+function actions.disrupting_editor_step(fz, victim)
+	local path = rawget(victim.table, "path")
+	local package = type(path) == "string" and path:match("^/Game/Fz/[^.]+") or pick(DELETABLE_PACKAGES)
+	if math.random(2) == 1 then
+		return editor_step("delete_asset", quoted(package))
+	end
+	return editor_step("unload_package", quoted(package))
+end
+
 -- One editor action; nil when the chosen one does not apply now (the caller then makes a binding call).
 function actions.random_step(fz)
 	return values.weighted(ACTIONS, fz)
@@ -239,6 +249,9 @@ local CALLBACK_BEHAVIOURS = {
 	{ 2, "editor.tick(1)", false },
 	{ 1, "editor.set_rendering(true)", false },
 	{ 1, "editor.undo()", false },
+	{ 2, "mrq_delete_all_jobs(); editor.collect_garbage()", true },
+	{ 2, "mrq_delete_all_jobs(); mrq_open_config(\"Nope\")", true },
+	{ 1, "mrq_render_queue(); editor.tick(1)", true },
 	{ 2, "editor.set_queue_subsystem_available(false)", false, true },
 }
 for _, behaviour in ipairs(CALLBACK_BEHAVIOURS) do

@@ -226,6 +226,23 @@ function values.any(fz)
 	return values.weighted(GENERATORS, fz)
 end
 
+-- A value of the same kind as the given one: the likely way past a conversion that the original got through.
+local GENERATORS_LIKE = {
+	string = { { 3, realistic_string }, { 2, hostile_string }, { 1, numeric_string } },
+	number = { { 3, integer }, { 1, float } },
+	boolean = { { 1, boolean } },
+	table = { { 2, handle }, { 2, handle_shaped }, { 2, reentrant } },
+	userdata = { { 1, reentrant }, { 1, callable_or_thread } },
+}
+
+function values.like(fz, original)
+	local generators = GENERATORS_LIKE[type(original.value)]
+	if not generators then
+		return values.any(fz)
+	end
+	return values.weighted(generators, fz)
+end
+
 -- Mostly one or two arguments, sometimes none or many; `n` keeps trailing nils.
 function values.arguments(fz)
 	local count = values.weighted({ { 2, function() return 0 end }, { 5, function() return 1 end },
