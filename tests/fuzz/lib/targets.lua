@@ -74,18 +74,25 @@ local function register_handle(fz, handle)
 	return entry
 end
 
--- The set of strings ever seen only grows: a key removed from a Lua table leaves a hole whose reuse depends on the
--- process's random string hash seed, which would make allocations, and with them the timing of finalizers, differ
--- between two runs of one seed.
+-- Addresses differ between processes (a job's identity is one), so they never join the pool.
+local function is_address(text)
+	return text:find("^0?x?%x+$") ~= nil and #text >= 8
+end
+
+-- Whether a string joins the pool depends on what was seen before, so the slot is drawn for every string: the random
+-- sequence then stays the same even when a string's novelty does not. The set of strings ever seen only grows: a key
+-- removed from a Lua table leaves a hole whose reuse depends on the process's random string hash seed, which would
+-- make allocations, and with them the timing of finalizers, differ between two runs of one seed.
 local function harvest_string(fz, text)
-	if #text == 0 or #text > HARVEST_MAX_LENGTH or fz.harvested_set[text] then
+	local slot = math.random(HARVEST_POOL_SIZE)
+	if #text == 0 or #text > HARVEST_MAX_LENGTH or fz.harvested_set[text] or is_address(text) then
 		return
 	end
 	fz.harvested_set[text] = true
 	if #fz.harvested < HARVEST_POOL_SIZE then
 		fz.harvested[#fz.harvested + 1] = text
 	else
-		fz.harvested[math.random(HARVEST_POOL_SIZE)] = text
+		fz.harvested[slot] = text
 	end
 end
 
