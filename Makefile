@@ -2,7 +2,7 @@
 JOBS ?= $(shell nproc)
 EXAMPLE ?= examples/first_script.lua
 
-.PHONY: all bootstrap build test test-versions example bench clean
+.PHONY: all bootstrap build test test-versions example bench fuzz clean
 
 all: build
 
@@ -32,6 +32,11 @@ bench: bootstrap
 	@cmake --preset release >/dev/null
 	@cmake --build --preset release -j $(JOBS)
 	@for b in build/release/bin/bench_*; do "$$b" || exit 1; done
+
+# The fuzzer, long, under ASan+UBSan: FUZZ_DURATION seconds (600) of seeds from FUZZ_FIRST_SEED, FUZZ_CALLS calls
+# each, FUZZ_JOBS at a time; prints the total number of calls and every distinct fault (tests/fuzz/campaign.sh).
+fuzz: build
+	@tests/fuzz/campaign.sh build/default/bin/vlmr
 
 clean:
 	@rm -rf build/default build/ue55 build/ue58 build/release
