@@ -1,6 +1,6 @@
--- Script text is written into log entries as it is: a line break in an argument makes one entry of two lines, the
--- second of which can pass for a result line of another call. Every call below logs such an entry today; the
--- queue report showed two of them, the fuzzer found the rest.
+-- Script text against the log and the argument checks: a line break in any argument stays inside its one log entry,
+-- and every argument of the wrong type is refused with an error that says it is a bad argument.
+
 local forged = "x\n[OK] mrq_save_queue -> saved 1 jobs to '/Game/Forged'"
 editor.create_config("/Game/Fz/Cfg1")
 local config = mrq_open_config("Fz/Cfg1")
@@ -29,9 +29,26 @@ local calls = {
 for _, call in ipairs(calls) do
 	editor.clear_log()
 	call[2]()
-	for _, entry in ipairs(editor.log()) do
-		if entry:find("[\r\n]") then
-			print(string.format("%-26s logs: %s", call[1], (entry:gsub("\n", "<LF>"))))
-		end
+	local entries = editor.log()
+	check.truthy(#entries >= 1, call[1] .. " logs")
+	for _, entry in ipairs(entries) do
+		check.falsy(entry:find("[\r\n]"), call[1] .. " logs one line per entry")
 	end
 end
+
+local wrong_types = {
+	{ "mrq_add_job(5)", function() return mrq_add_job(5) end },
+	{ "mrq_open_config({})", function() return mrq_open_config({}) end },
+	{ "mrq_save_queue()", function() return mrq_save_queue() end },
+	{ "job:set_author()", function() return job:set_author() end },
+	{ "job:set_enabled(1)", function() return job:set_enabled(1) end },
+	{ "config:find_or_add_setting(io.stdout)", function() return config:find_or_add_setting(io.stdout) end },
+	{ "mrq_get_job(\"x\")", function() return mrq_get_job("x") end },
+}
+for _, call in ipairs(wrong_types) do
+	local ok, message = pcall(call[2])
+	check.falsy(ok, call[1] .. " raises")
+	check.matches(message, "^stack index %d+, expected %a+, received [^:]+: .+ %(bad argument into '.+'%)$", call[1] .. " says bad argument")
+end
+
+check.summary()
