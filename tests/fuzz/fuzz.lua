@@ -26,7 +26,7 @@ end
 local trace = load_library("trace")
 local values = load_library("values", trace)
 local targets = load_library("targets")
-local actions = load_library("actions", trace, values, targets)
+local actions = load_library("actions", trace, values)
 local steps = load_library("steps", trace, values, targets, actions)
 
 local function integer_setting(name, default)

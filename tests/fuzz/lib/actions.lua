@@ -1,7 +1,7 @@
 -- What the fuzzer does between binding calls, as an artist's editor would: garbage collection, undo and redo, ticks,
 -- renders started and cancelled, saves and loads, assets unloaded or deleted, packages locked, the queue subsystem
 -- removed; and the script code that metamethods and finalizers run in the middle of a binding call.
-local trace, values, targets = ...
+local trace, values = ...
 
 local actions = {}
 
@@ -17,7 +17,6 @@ local UNLOADABLE_PACKAGES = { "/Game/Fz/Cfg1", "/Game/Fz/Cfg2", "/Game/Fz/Graph1
 local EDITABLE_PREFIXES = { "/Game/Fz", "/Game/", "/Temp/" }
 
 local pick = values.pick
-
 local arg = values.arg
 
 local function quoted(text)
@@ -30,7 +29,7 @@ end
 
 -- A step is one traced call: `checked` steps call the bindings and are held to their rules; editor steps may raise.
 -- `arguments` are { value, text } pairs with their count `n`.
-local function call_step(target, fn, arguments, checked)
+function actions.call_step(target, fn, arguments, checked)
 	local list = {}
 	for index = 1, arguments.n do
 		list[index] = arguments[index].value
@@ -46,7 +45,7 @@ local function editor_step(name, ...)
 	if not editor[name] then
 		return nil
 	end
-	return call_step("editor." .. name, editor[name], table.pack(...), false)
+	return actions.call_step("editor." .. name, editor[name], table.pack(...), false)
 end
 
 local function binding_step(name, ...)
@@ -54,7 +53,7 @@ local function binding_step(name, ...)
 	if not fn then
 		return nil
 	end
-	return call_step(name, fn, table.pack(...), true)
+	return actions.call_step(name, fn, table.pack(...), true)
 end
 
 local function plain_step(target, text, run)
@@ -101,7 +100,7 @@ local function save_handle_step(fz)
 	end
 	local entry = pick(savable)
 	local save = rawget(entry.table, "save")
-	local step = call_step(entry.kind .. ":save", save, table.pack(arg(entry.table, entry.name)), true)
+	local step = actions.call_step(entry.kind .. ":save", save, table.pack(arg(entry.table, entry.name)), true)
 	step.text = entry.name .. ":save()"
 	return step
 end

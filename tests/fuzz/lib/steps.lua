@@ -73,18 +73,13 @@ function steps.global_choices(globals)
 	return choices
 end
 
-local function global_step(fz, global, arguments)
-	local list = argument_values(arguments)
-	return maybe_in_coroutine({
-		target = global.name, checked = true, arguments = arguments,
-		text = global.name .. "(" .. trace.arguments(arguments) .. ")",
-		run = function() return global.fn(table.unpack(list, 1, arguments.n)) end,
-	})
+local function global_step(global, arguments)
+	return maybe_in_coroutine(actions.call_step(global.name, global.fn, arguments, true))
 end
 
 local function random_global_step(fz)
 	local global = values.weighted_pick(fz.global_choices)[2]
-	return global_step(fz, global, arguments_for(fz, global.name))
+	return global_step(global, arguments_for(fz, global.name))
 end
 
 -- Mostly the handle itself as self; sometimes another handle (of any kind) or any value.
@@ -178,7 +173,7 @@ local function disrupting_step(fz, victim)
 	local target = call.global and call.global.name or (call.entry.kind .. ":" .. call.method)
 	local arguments = own_strings_arguments(fz, victim) or arguments_for(fz, target)
 	if call.global then
-		return global_step(fz, call.global, arguments)
+		return global_step(call.global, arguments)
 	end
 	return method_step(fz, call.entry, call.method, arguments)
 end
