@@ -14,30 +14,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <string>
-#include <vector>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-extern char** environ;
 
 namespace
 {
 	const char* const SecondProcessProjectVariable = "VLMR_PERSISTENCE_SECOND_PROCESS_PROJECT";
 	const TCHAR* const SecondProcessMarker = TEXT("SecondProcessPassed");
-
-	FString PackageFilename(const TCHAR* PackageName)
-	{
-		return FPackageName::LongPackageNameToFilename(PackageName, FPackageName::GetAssetPackageExtension());
-	}
-
-	FSavePackageResultStruct SavePackageToItsFile(UPackage* Package, UObject* Asset)
-	{
-		FSavePackageArgs SaveArgs;
-		SaveArgs.TopLevelFlags = RF_Public | RF_Standalone;
-		return UPackage::Save(Package, Asset, *PackageFilename(*Package->GetName()), SaveArgs);
-	}
 
 	/** Saves a queue-like asset with a default subobject, an extra inner object and a reference into a second package. */
 	void SaveReferenceScene()
@@ -67,39 +48,6 @@ namespace
 
 		ASSERT_TRUE(SavePackageToItsFile(SharedPackage, Shared).IsSuccessful());
 		ASSERT_TRUE(SavePackageToItsFile(Package, Queue).IsSuccessful());
-	}
-
-	FString GetExecutablePath()
-	{
-		char Buffer[4096] = {};
-		const ssize_t Length = readlink("/proc/self/exe", Buffer, sizeof(Buffer) - 1);
-		return Length > 0 ? FString(Buffer) : FString();
-	}
-
-	/** Runs one test of this executable in a new process; returns its exit status. */
-	int RunTestInSecondProcess(const char* TestFilter, const FString& ProjectDir)
-	{
-		const std::string Executable = TCHAR_TO_UTF8(*GetExecutablePath());
-		std::string FilterArgument = std::string("--gtest_filter=") + TestFilter;
-		char* Arguments[] = { const_cast<char*>(Executable.c_str()), FilterArgument.data(), nullptr };
-
-		std::string ProjectVariable = std::string(SecondProcessProjectVariable) + "=" + TCHAR_TO_UTF8(*ProjectDir);
-		std::vector<char*> Environment;
-		for (char** Entry = environ; *Entry; ++Entry)
-		{
-			Environment.push_back(*Entry);
-		}
-		Environment.push_back(ProjectVariable.data());
-		Environment.push_back(nullptr);
-
-		pid_t Child = 0;
-		if (posix_spawn(&Child, Executable.c_str(), nullptr, nullptr, Arguments, Environment.data()) != 0)
-		{
-			return -1;
-		}
-		int Status = 0;
-		waitpid(Child, &Status, 0);
-		return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
 	}
 
 	class PackageTest : public testing::Test
@@ -345,7 +293,7 @@ TEST_F(PackageTest, SavedPackageLoadsBackInASecondProcess)
 	SaveReferenceScene();
 	const FString Marker = Project.GetProjectDir() / SecondProcessMarker;
 
-	const int ExitStatus = RunTestInSecondProcess("PackageSecondProcess.LoadsWhatTheFirstProcessSaved", Project.GetProjectDir());
+	const int ExitStatus = RunTestInSecondProcess("PackageSecondProcess.LoadsWhatTheFirstProcessSaved", SecondProcessProjectVariable, Project.GetProjectDir());
 
 	EXPECT_EQ(ExitStatus, 0);
 	EXPECT_TRUE(IFileManager::Get().FileExists(*Marker));

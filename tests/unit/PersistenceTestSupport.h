@@ -6,7 +6,18 @@
 #include "HAL/PlatformProcess.h"
 #include "Misc/Guid.h"
 #include "Misc/OutputDeviceRedirector.h"
+#include "Misc/PackageName.h"
 #include "Misc/Paths.h"
+#include "UObject/Package.h"
+#include "UObject/SavePackage.h"
+
+#include <string>
+#include <vector>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
 
 /** Points the project directory at a new empty folder for the life of the scope, then deletes the folder. */
 class FScopedTestProject
@@ -88,3 +99,49 @@ private:
 	};
 	TArray<FLine> Lines;
 };
+
+inline FString GetTestExecutablePath()
+{
+	char Buffer[4096] = {};
+	const ssize_t Length = readlink("/proc/self/exe", Buffer, sizeof(Buffer) - 1);
+	return Length > 0 ? FString(Buffer) : FString();
+}
+
+/** Runs one test of this executable in a new process, with ProjectVariable naming ProjectDir; returns its exit status. */
+inline int RunTestInSecondProcess(const char* TestFilter, const char* ProjectVariable, const FString& ProjectDir)
+{
+	const std::string Executable = TCHAR_TO_UTF8(*GetTestExecutablePath());
+	std::string FilterArgument = std::string("--gtest_filter=") + TestFilter;
+	char* Arguments[] = { const_cast<char*>(Executable.c_str()), FilterArgument.data(), nullptr };
+
+	std::string ProjectAssignment = std::string(ProjectVariable) + "=" + TCHAR_TO_UTF8(*ProjectDir);
+	std::vector<char*> Environment;
+	for (char** Entry = environ; *Entry; ++Entry)
+	{
+		Environment.push_back(*Entry);
+	}
+	Environment.push_back(ProjectAssignment.data());
+	Environment.push_back(nullptr);
+
+	pid_t Child = 0;
+	if (posix_spawn(&Child, Executable.c_str(), nullptr, nullptr, Arguments, Environment.data()) != 0)
+	{
+		return -1;
+	}
+	int Status = 0;
+	waitpid(Child, &Status, 0);
+	return WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
+}
+
+inline FString PackageFilename(const TCHAR* PackageName)
+{
+	return FPackageName::LongPackageNameToFilename(PackageName, FPackageName::GetAssetPackageExtension());
+}
+
+/** Saves the package to its file in the project's content, with Asset as its asset. */
+inline FSavePackageResultStruct SavePackageToItsFile(UPackage* Package, UObject* Asset)
+{
+	FSavePackageArgs SaveArgs;
+	SaveArgs.TopLevelFlags = RF_Public | RF_Standalone;
+	return UPackage::Save(Package, Asset, *PackageFilename(*Package->GetName()), SaveArgs);
+}

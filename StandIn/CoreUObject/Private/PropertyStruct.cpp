@@ -1,6 +1,7 @@
 // FStructProperty: a member of a reflected struct type.
 
 #include "UObject/UnrealType.h"
+#include "ObjectReferenceVisiting.h"
 #include "PropertyTextParsing.h"
 
 using namespace UE::CoreUObject::StandIn::PropertyText;
@@ -97,12 +98,13 @@ void FStructProperty::VisitObjectReferences(void* Value, TFunctionRef<void(UObje
 		{
 			Property->VisitObjectReferences(Property->ContainerPtrToValuePtr<void>(Element), Visitor);
 		}
+		UE::CoreUObject::StandIn::Private::VisitNativeStructReferences(Struct, Element, Visitor);
 	}
 }
 
 bool FStructProperty::ContainsObjectReference() const
 {
-	return StructContainsObjectReference(Struct);
+	return (Struct && Struct->GetCppStructOps().AddStructReferencedObjects) || StructContainsObjectReference(Struct);
 }
 
 void FStructProperty::CopyValuesInternal(void* Dest, void const* Src, int32 Count) const

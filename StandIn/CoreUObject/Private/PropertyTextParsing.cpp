@@ -238,6 +238,18 @@ namespace UE::CoreUObject::StandIn::PropertyText
 		}
 	}
 
+	bool SkipListSeparator(const TCHAR*& Buffer)
+	{
+		SkipWhitespace(Buffer);
+		if (*Buffer == TCHAR(','))
+		{
+			++Buffer;
+			SkipWhitespace(Buffer);
+			return true;
+		}
+		return *Buffer == TCHAR(')');
+	}
+
 	bool IsValueSpecified(const TCHAR* Buffer)
 	{
 		return Buffer && *Buffer && *Buffer != TCHAR(',') && *Buffer != TCHAR(')');

@@ -25,6 +25,10 @@ namespace UE::CoreUObject::StandIn::PropertyText
 
 	void LogImportError(FOutputDevice* ErrorText, const FString& Message);
 
+	// After an element of a parenthesized list: skips whitespace and a ',' with the whitespace after it. False when
+	// neither a ',' nor the closing ')' follows.
+	bool SkipListSeparator(const TCHAR*& Buffer);
+
 	// Whether a value follows in the text (not the end, a ',' or a ')').
 	bool IsValueSpecified(const TCHAR* Buffer);
 	// Skips one value (quoted strings and nested parentheses included) up to the next ',' or ')'; null when unbalanced.

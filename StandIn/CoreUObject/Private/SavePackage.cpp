@@ -118,12 +118,19 @@ namespace UE::CoreUObject::StandIn::Private
 			{
 				continue;
 			}
+			// A struct is written against its own defaults, as arrays write their struct elements: a field left out is one
+			// the struct's constructor gives back on load (a false bool whose default is true is written).
+			void* StructDefaults = CastField<FStructProperty>(Property) ? Property->AllocateAndInitializeValue() : nullptr;
 			for (int32 ArrayIndex = 0; ArrayIndex < Property->ArrayDim; ++ArrayIndex)
 			{
 				FString Value;
-				Property->ExportTextItem_Direct(Value, Property->ContainerPtrToValuePtr<void>(Object, ArrayIndex), nullptr, Object, PPF_None);
+				Property->ExportTextItem_Direct(Value, Property->ContainerPtrToValuePtr<void>(Object, ArrayIndex), StructDefaults, Object, PPF_None);
 				const FString Key = Property->ArrayDim > 1 ? FString::Printf(TEXT("%s[%d]"), *Property->GetName(), ArrayIndex) : Property->GetName();
 				OutProperties.Emplace(Key, Value);
+			}
+			if (StructDefaults)
+			{
+				Property->DestroyAndFreeValue(StructDefaults);
 			}
 		}
 	}

@@ -28,6 +28,10 @@ void UScriptStruct::SetCppStructOps(const FStandInCppStructOps& InOps)
 	{
 		StructFlags |= STRUCT_ImportTextItemNative;
 	}
+	if (InOps.AddStructReferencedObjects)
+	{
+		StructFlags |= STRUCT_AddStructReferencedObjects;
+	}
 	if (InOps.bIsAtomic)
 	{
 		StructFlags |= STRUCT_Atomic | STRUCT_Immutable;
@@ -234,13 +238,7 @@ const TCHAR* UScriptStruct::ImportFieldsText(const TCHAR* Buffer, void* Value, U
 				return nullptr;
 			}
 		}
-		SkipWhitespace(Buffer);
-		if (*Buffer == TCHAR(','))
-		{
-			++Buffer;
-			SkipWhitespace(Buffer);
-		}
-		else if (*Buffer != TCHAR(')'))
+		if (!SkipListSeparator(Buffer))
 		{
 			LogImportError(ErrorText, FString::Printf(TEXT("ImportText (%s): Missing closing parenthesis: %s"), *StructName, Buffer));
 			return nullptr;

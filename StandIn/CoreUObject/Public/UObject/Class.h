@@ -116,6 +116,8 @@ struct COREUOBJECT_API FStandInCppStructOps
 	bool (*ImportTextItem)(const TCHAR*& Buffer, void* Value, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText) = nullptr;
 	// Hash of a value, when the struct has GetTypeHash.
 	uint32 (*GetTypeHash)(const void* Value) = nullptr;
+	// Reports the object references the struct holds outside its reflected properties, when it has AddStructReferencedObjects.
+	void (*AddStructReferencedObjects)(void* Value, FReferenceCollector& Collector) = nullptr;
 	// Atomic structs export every field even when it equals the default.
 	bool bIsAtomic = false;
 };
@@ -343,3 +345,16 @@ UScriptStruct* StaticStruct()
 // Whether a C++ type has reflection as a struct.
 template<class T>
 concept CStandInReflectedStruct = requires { T::StaticStruct(); } || requires { TBaseStructure<T>::Get(); };
+
+// The class default object of a class, read-only.
+template<class T>
+const T* GetDefault()
+{
+	return static_cast<const T*>(T::StaticClass()->GetDefaultObject());
+}
+
+template<class T>
+T* GetMutableDefault()
+{
+	return static_cast<T*>(T::StaticClass()->GetDefaultObject());
+}

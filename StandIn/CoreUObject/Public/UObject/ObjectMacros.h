@@ -622,6 +622,15 @@ public: \
 	Builder.template AddProperty<decltype(std::declval<typename std::decay_t<decltype(Builder)>::OwnerType&>().Member)>( \
 		TEXT(#Member), offsetof(typename std::decay_t<decltype(Builder)>::OwnerType, Member), EPropertyFlags(TPropertyFlags))
 
+// Inside a class or struct registration body: a reflected one-bit bitfield bool ("uint8 bOverride_X : 1;"), used like
+// STANDIN_PROPERTY.
+//	STANDIN_BITFIELD_PROPERTY(bOverride_OutputDirectory, CPF_Edit)->SetMetaData(TEXT("InlineEditConditionToggle"), TEXT(""));
+#define STANDIN_BITFIELD_PROPERTY(Member, TPropertyFlags) \
+	Builder.AddBitfieldProperty(TEXT(#Member), \
+		UE::CoreUObject::StandIn::FindBitfieldBit<typename std::decay_t<decltype(Builder)>::OwnerType>( \
+			[](auto& Owner) { Owner.Member = 1; }), \
+		EPropertyFlags(TPropertyFlags))
+
 // Inside a class registration body: a reflected member function, callable through ProcessEvent. The parameter names
 // follow the function pointer, in order; a non-void result is the "ReturnValue" parameter.
 //	STANDIN_FUNCTION(GetVariableStringValueByName, TEXT("InVariableName"), TEXT("InDefaultValue"), TEXT("OutVariableValue"));
@@ -636,17 +645,17 @@ public: \
 #define STANDIN_IMPLEMENT_ENUM(TEnum, TModuleName, ...) \
 	template<> UEnum* StaticEnum<TEnum>() \
 	{ \
-		static UEnum* Enum = nullptr; \
-		if (!Enum) \
+		static UEnum* EnumObject = nullptr; \
+		if (!EnumObject) \
 		{ \
 			using enum TEnum; \
 			const TEnum Values[] = { __VA_ARGS__ }; \
 			TArray<int64> IntValues; \
 			for (TEnum Value : Values) { IntValues.Add(int64(Value)); } \
-			Enum = UE::CoreUObject::StandIn::ConstructNativeEnum(TEXT(#TEnum), TEXT(TModuleName), TEXT(#__VA_ARGS__), \
+			EnumObject = UE::CoreUObject::StandIn::ConstructNativeEnum(TEXT(#TEnum), TEXT(TModuleName), TEXT(#__VA_ARGS__), \
 				IntValues, UE::CoreUObject::StandIn::TIsScopedEnum_V<TEnum>); \
 		} \
-		return Enum; \
+		return EnumObject; \
 	} \
 	static UE::CoreUObject::StandIn::FNativeEnumRegistrant GStandInRegistrant_##TEnum(&StaticEnum<TEnum>);
 

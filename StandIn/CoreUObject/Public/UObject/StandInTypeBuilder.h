@@ -13,6 +13,7 @@
 #include <utility>
 
 class FEnumProperty;
+class FReferenceCollector;
 class FTextProperty;
 
 namespace UE::CoreUObject::StandIn
@@ -178,6 +179,35 @@ namespace UE::CoreUObject::StandIn
 		}
 	}
 
+	// Where one bit of a bitfield member lives: the byte's offset in the owner and the bit inside that byte.
+	struct FBitfieldBit
+	{
+		int32 ByteOffset = INDEX_NONE;
+		uint8 BitMask = 0;
+	};
+
+	// Finds the bit that SetBit sets (SetBit(Owner) assigns 1 to the bitfield member) by setting it on zeroed scratch
+	// memory the size of the owner and looking for the byte that changed, as the engine's generated code does.
+	template<class TOwner, class TSetBit>
+	FBitfieldBit FindBitfieldBit(TSetBit SetBit)
+	{
+		uint8* Scratch = static_cast<uint8*>(FMemory::Malloc(sizeof(TOwner), alignof(TOwner)));
+		FMemory::Memzero(Scratch, sizeof(TOwner));
+		SetBit(*reinterpret_cast<TOwner*>(Scratch));
+		FBitfieldBit Result;
+		for (int32 Offset = 0; Offset < int32(sizeof(TOwner)) && Result.ByteOffset == INDEX_NONE; ++Offset)
+		{
+			if (Scratch[Offset] != 0)
+			{
+				Result.ByteOffset = Offset;
+				Result.BitMask = Scratch[Offset];
+			}
+		}
+		FMemory::Free(Scratch);
+		checkf(Result.ByteOffset != INDEX_NONE && FMath::IsPowerOfTwo(uint32(Result.BitMask)), TEXT("A bitfield bool must be one bit wide"));
+		return Result;
+	}
+
 	// The C++ signature of a function registered with STANDIN_FUNCTION.
 	template<class T> struct TFunctionSignature;
 
@@ -337,6 +367,14 @@ public:
 		return AddOwnProperty(Property, Offset, AllFlags);
 	}
 
+	// A reflected one-bit bitfield member, found by FindBitfieldBit: a non-native FBoolProperty of one byte.
+	FProperty* AddBitfieldProperty(const TCHAR* Name, UE::CoreUObject::StandIn::FBitfieldBit Bit, EPropertyFlags Flags)
+	{
+		FBoolProperty* Property = new FBoolProperty(GetStruct(), FName(Name), UE::CoreUObject::StandIn::NativeFieldFlags);
+		Property->SetBoolSize(sizeof(uint8), false, Bit.BitMask);
+		return AddOwnProperty(Property, size_t(Bit.ByteOffset), Flags);
+	}
+
 	// A reflected function callable through ProcessEvent: parameters in order (const T& and by-value are CPF_Parm,
 	// non-const T& adds CPF_OutParm), then "ReturnValue" (CPF_Parm | CPF_OutParm | CPF_ReturnParm).
 	template<auto Function>
@@ -437,6 +475,10 @@ namespace UE::CoreUObject::StandIn
 			{
 				return static_cast<TStruct*>(Value)->ImportTextItem(Buffer, PortFlags, Parent, ErrorText);
 			};
+		}
+		if constexpr (requires(TStruct& Value, FReferenceCollector& Collector) { Value.AddStructReferencedObjects(Collector); })
+		{
+			Ops.AddStructReferencedObjects = [](void* Value, FReferenceCollector& Collector) { static_cast<TStruct*>(Value)->AddStructReferencedObjects(Collector); };
 		}
 		if constexpr (requires(const TStruct& Value) { { GetTypeHash(Value) } -> std::convertible_to<uint32>; })
 		{

@@ -544,33 +544,49 @@ public:
 	Bool, string and name properties.
 -----------------------------------------------------------------------------*/
 
-// Stand-in choice: only native bool members (no bitfields), so the field and byte masks are always 0xFF.
+// A native bool member, or one bit of a bitfield ("uint8 bOverride_X : 1"): the value is the bits of FieldMask in the
+// byte at ByteOffset (all of them for a native bool), and writing true stores ByteMask there.
 class COREUOBJECT_API FBoolProperty : public FProperty
 {
 	DECLARE_FIELD(FBoolProperty, FProperty, CASTCLASS_FBoolProperty)
 public:
 	FBoolProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags);
 
-	bool GetPropertyValue(void const* A) const { return *static_cast<const bool*>(A); }
-	void SetPropertyValue(void* A, bool Value) const { *static_cast<bool*>(A) = Value; }
+	bool GetPropertyValue(void const* A) const { return (*(static_cast<const uint8*>(A) + ByteOffset) & FieldMask) != 0; }
+	void SetPropertyValue(void* A, bool Value) const
+	{
+		uint8* Byte = static_cast<uint8*>(A) + ByteOffset;
+		*Byte = uint8((*Byte & ~FieldMask) | (Value ? ByteMask : 0));
+	}
 	bool GetPropertyValue_InContainer(void const* A, int32 ArrayIndex = 0) const { return GetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex)); }
 	void SetPropertyValue_InContainer(void* A, bool Value, int32 ArrayIndex = 0) const { SetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex), Value); }
 	static bool GetDefaultPropertyValue() { return false; }
-	bool IsNativeBool() const { return true; }
-	uint8 GetFieldMask() const { return 0xFF; }
-	uint8 GetByteMask() const { return 0xFF; }
-	uint8 GetFieldSize() const { return sizeof(bool); }
-	void SetBoolSize(const uint32 InSize, const bool bIsNativeBool = false, const uint32 InBitMask = 0) {}
+	bool IsNativeBool() const { return FieldMask == 0xFF; }
+	uint8 GetFieldMask() const { return FieldMask; }
+	uint8 GetByteMask() const { return ByteMask; }
+	uint8 GetFieldSize() const { return FieldSize; }
+	uint8 GetByteOffset() const { return ByteOffset; }
+	// InSize is the size of the C++ member (bool, or the bitfield's storage type); InBitMask the bit inside it.
+	void SetBoolSize(const uint32 InSize, const bool bIsNativeBool = false, const uint32 InBitMask = 0);
 
-	int32 GetMinAlignment() const override { return alignof(bool); }
-	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override { return TEXT("bool"); }
+	int32 GetMinAlignment() const override { return FieldSize; }
+	// "bool" for a native bool, "uint8" (the storage type) for a bitfield.
+	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void ExportText_Internal(FString& ValueStr, const void* PropertyValueOrContainer, EPropertyPointerType PointerType, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
 	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* ContainerOrPropertyPtr, EPropertyPointerType PointerType, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 
 protected:
 	void CopyValuesInternal(void* Dest, void const* Src, int32 Count) const override;
+	void ClearValueInternal(void* Data) const override;
+	void InitializeValueInternal(void* Dest) const override;
 	uint32 GetValueTypeHashInternal(const void* Src) const override { return GetPropertyValue(Src) ? 1u : 0u; }
+
+private:
+	uint8 FieldSize = sizeof(bool);
+	uint8 ByteOffset = 0;
+	uint8 ByteMask = 1;
+	uint8 FieldMask = 0xFF;
 };
 
 typedef TProperty_WithEqualityAndSerializer<FString, FProperty> FStrProperty_Super;
