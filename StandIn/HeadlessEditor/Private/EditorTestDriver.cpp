@@ -6,6 +6,7 @@
 #include "LevelSequence.h"
 #include "LevelSequenceAssets.h"
 #include "LuaSessionData.h"
+#include "MovieRenderGraphTestDriver.h"
 #include "MovieRenderQueueTestDriver.h"
 #include "RenderWait.h"
 #include "RunStop.h"
@@ -256,6 +257,7 @@ namespace UE::Vlmr
 			{ "engine_version", &LuaEngineVersion },
 			{ "create_config", &LuaCreateConfig },
 			{ "create_graph", &LuaCreateGraph },
+			{ "add_typed_variable", &LuaAddTypedVariable },
 			{ "set_rendering", &LuaSetRendering },
 			{ "set_queue_subsystem_available", &LuaSetQueueSubsystemAvailable },
 			{ "set_default_local_executor", &LuaSetDefaultLocalExecutor },

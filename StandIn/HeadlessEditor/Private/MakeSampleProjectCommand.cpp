@@ -1,3 +1,4 @@
+#include "ConfigAssets.h"
 #include "ConsoleOutput.h"
 #include "Editor.h"
 #include "EditorAssetOperations.h"
@@ -80,7 +81,8 @@ namespace UE::Vlmr
 					return false;
 				}
 			}
-			return true;
+			// A bare graph, as the graph editor's "empty graph" makes it, for the graph examples to build on.
+			return CreateGraphConfigAsset(TEXT("/Game/Graphs/ExampleGraph"), OutError) != nullptr;
 		}
 	}
 

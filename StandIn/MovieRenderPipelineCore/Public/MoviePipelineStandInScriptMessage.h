@@ -5,6 +5,6 @@
 
 namespace UE::MoviePipeline::StandIn
 {
-	// Stand-in choice: without FFrame in the stand-in CoreUObject, the message goes to LogScript at its verbosity.
+	// Through FFrame::KismetExecutionMessage, from code that has the message as an FString.
 	MOVIERENDERPIPELINECORE_API void ReportScriptExecutionMessage(const FString& Message, ELogVerbosity::Type Verbosity);
 }

@@ -1,0 +1,26 @@
+#include "Graph/Nodes/MovieGraphSelectNode.h"
+
+#include "UObject/UnrealType.h"
+
+UMovieGraphSelectNode::UMovieGraphSelectNode() = default;
+
+TArray<FMovieGraphPinProperties> UMovieGraphSelectNode::GetInputPinProperties() const
+{
+	TArray<FMovieGraphPinProperties> PinProperties;
+	for (const FString& Option : SelectOptions)
+	{
+		PinProperties.Add(FMovieGraphPinProperties::MakeBranchProperties(FName(*Option)));
+	}
+	PinProperties.Add(FMovieGraphPinProperties(TEXT("Selected Option"), EMovieGraphValueType::String, nullptr, false));
+	return PinProperties;
+}
+
+TArray<FMovieGraphPinProperties> UMovieGraphSelectNode::GetOutputPinProperties() const
+{
+	return { FMovieGraphPinProperties::MakeBranchProperties() };
+}
+
+STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphSelectNode, CLASS_None, "MovieRenderPipelineCore")
+{
+	STANDIN_PROPERTY(SelectOptions, CPF_Edit | CPF_BlueprintVisible);
+}
