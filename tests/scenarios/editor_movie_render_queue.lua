@@ -8,11 +8,20 @@ editor.collect_garbage()
 check.eq(editor.unload_package("/Game/Presets/Nightly"), true, "the preset was in memory")
 check.raises(function() editor.create_config("/Game/Presets/Nightly") end, "already exists", "the saved preset is on disk")
 
-check.eq(editor.create_graph("/Game/Graphs/Main"), "/Game/Graphs/Main.Main", "new graph asset")
-check.raises(function() editor.create_graph("/Game/Graphs/Main") end, "^editor.create_graph: an asset already exists at '/Game/Graphs/Main'$", "existing graph")
+check.eq(editor.create_graph("/Game/Drafts/Main"), "/Game/Drafts/Main.Main", "new graph asset")
+check.raises(function() editor.create_graph("/Game/Drafts/Main") end, "^editor.create_graph: an asset already exists at '/Game/Drafts/Main'$", "existing graph")
 check.raises(function() editor.create_graph("/Game/Presets/Weekly") end, "already exists", "a preset's path")
 check.raises(function() editor.create_graph({}) end, "string expected", "path as a table")
-check.eq(editor.list_files("Content/Graphs"), { "Main.uasset" }, "the graph is saved")
+check.eq(editor.list_files("Content/Drafts"), { "Main.uasset" }, "the graph is saved")
+
+-- Typed variables: any value type this engine names, in a container or not; the engine picks the final name.
+check.eq(editor.add_typed_variable("/Game/Drafts/Main", "Take", "Int32"), "Take", "Int32 variable")
+check.eq(editor.add_typed_variable("/Game/Drafts/Main.Main", "Take", "Text", "Array"), "Take 1", "an array of texts")
+check.raises(function() editor.add_typed_variable("/Game/Drafts/Main", "X", "None") end,
+	"^editor.add_typed_variable: this engine has no value type None$", "the hidden None type")
+check.raises(function() editor.add_typed_variable("/Game/Drafts/Main", "X", "Float", "Bag") end, "no container type Bag", "unknown container")
+check.raises(function() editor.add_typed_variable("/Game/Drafts/Nope", "X", "Float") end, "no graph at /Game/Drafts/Nope", "missing graph")
+check.eq(mrq_open_graph("Drafts/Main"):info().variable_count, 2, "two variables added")
 
 local shots = {
 	{ name = "sh010", camera = "CineCam_A", start = 0, ["end"] = 48 },

@@ -23,6 +23,7 @@ void BindMovieRenderQueue(sol::state& Lua, FLuaSessionData& Session)
 	Lua.set_function("mrq_get_queue", [S](sol::this_state L) { return GetQueue(L, *S); });
 	Lua.set_function("mrq_get_job", [S](sol::this_state L, int64 Index) { return GetJob(L, *S, Index); });
 	Lua.set_function("mrq_open_config", [S](sol::this_state L, const FScriptText& Path) { return OpenConfig(L, *S, Path.Value); });
+	Lua.set_function("mrq_open_graph", [S](sol::this_state L, const FScriptText& Path) { return OpenGraph(L, *S, Path.Value); });
 	Lua.set_function("mrq_save_queue", [S](sol::this_state L, const FScriptText& Path) { return SaveQueue(L, *S, Path.Value); });
 	Lua.set_function("mrq_load_queue", [S](sol::this_state L, const FScriptText& Path) { return LoadQueue(L, *S, Path.Value); });
 }

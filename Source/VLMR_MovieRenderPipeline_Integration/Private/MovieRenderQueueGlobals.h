@@ -29,6 +29,7 @@ namespace VLMR
 	// Presets and setting classes.
 	sol::table ListSettings(sol::state_view Lua, FLuaSessionData& Session, const FString& Filter);
 	sol::object OpenConfig(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath);
+	sol::object OpenGraph(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath);
 
 	// Saved queues.
 	sol::object SaveQueue(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath);

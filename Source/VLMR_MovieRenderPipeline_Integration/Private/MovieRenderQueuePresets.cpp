@@ -1,4 +1,5 @@
 // The preset globals: listing the setting classes there are, and opening a preset asset.
+#include "Graph/MovieGraphConfig.h"
 #include "LuaSessionData.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineSetting.h"
@@ -7,6 +8,7 @@
 #include "MovieRenderQueueSettings.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VLMRAssetRoutines.h"
+#include "VLMRClassLookup.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
 
@@ -18,21 +20,11 @@ namespace VLMR
 		FString DisplayName;
 	};
 
-	static bool IsListedSettingClass(const UClass* Class)
-	{
-		return Class->IsChildOf(UMoviePipelineSetting::StaticClass()) && !Class->HasAnyClassFlags(CLASS_Abstract | CLASS_Deprecated);
-	}
-
 	static TArray<FSettingClassRow> ReadSettingClasses(const FString& Filter)
 	{
 		TArray<FSettingClassRow> Rows;
-		for (UObject* Object : EnumerateClasses())
+		for (const UClass* Class : CollectClassesDerivedFrom(UMoviePipelineSetting::StaticClass(), CLASS_Abstract | CLASS_Deprecated))
 		{
-			const UClass* Class = static_cast<const UClass*>(Object);
-			if (!IsListedSettingClass(Class))
-			{
-				continue;
-			}
 			FString Name = Class->GetName();
 			if (Filter.IsEmpty() || Name.Contains(Filter, ESearchCase::IgnoreCase, ESearchDir::FromStart))
 			{
@@ -54,20 +46,33 @@ namespace VLMR
 		return Table;
 	}
 
-	sol::object OpenConfig(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath)
+	// Loads a preset asset of type T by the script's path and builds its handle; a path too long for the engine or a
+	// missing asset fails with one line and nil.
+	template<class T, class TBuildHandle>
+	static sol::object OpenPresetAsset(sol::state_view Lua, FLuaSessionData& Session, const TCHAR* Label, const TCHAR* AssetKind,
+		const FString& AssetPath, TBuildHandle&& BuildHandle)
 	{
-		const TCHAR* Label = TEXT("mrq_open_config");
 		const FString Path = PrefixGameRoot(AssetPath);
 		if (!CheckEngineNameLength(Session, Label, Path))
 		{
 			return Nil(Lua);
 		}
-		const TStrongObjectPtr<UMoviePipelinePrimaryConfig> Config(LoadTypedAssetOrReport<UMoviePipelinePrimaryConfig>(Session, Label, TEXT("config asset"), Path));
-		if (!Config)
+		const TStrongObjectPtr<T> Asset(LoadTypedAssetOrReport<T>(Session, Label, AssetKind, Path));
+		if (!Asset)
 		{
 			return Nil(Lua);
 		}
 		LogLine(Session, ELineKind::Ok, Label, Path);
-		return BuildConfigHandle(Lua, Config.Get(), Session);
+		return BuildHandle(Lua, Asset.Get(), Session);
+	}
+
+	sol::object OpenConfig(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath)
+	{
+		return OpenPresetAsset<UMoviePipelinePrimaryConfig>(Lua, Session, TEXT("mrq_open_config"), TEXT("config asset"), AssetPath, &BuildConfigHandle);
+	}
+
+	sol::object OpenGraph(sol::state_view Lua, FLuaSessionData& Session, const FString& AssetPath)
+	{
+		return OpenPresetAsset<UMovieGraphConfig>(Lua, Session, TEXT("mrq_open_graph"), TEXT("graph asset"), AssetPath, &BuildGraphHandle);
 	}
 }

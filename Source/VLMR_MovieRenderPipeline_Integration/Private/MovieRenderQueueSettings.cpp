@@ -4,56 +4,16 @@
 #include "MoviePipelineSetting.h"
 #include "MovieRenderQueueHandles.h"
 #include "UObject/StrongObjectPtr.h"
-#include "UObject/UObjectHash.h"
+#include "VLMRClassLookup.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
 
 namespace VLMR
 {
-	TArray<UObject*> EnumerateClasses()
-	{
-		TArray<UObject*> Classes;
-		GetObjectsOfClass(UClass::StaticClass(), Classes, true, RF_ClassDefaultObject, UE::GetAsyncLoadingInternalFlagsExclusion());
-		return Classes;
-	}
-
-	static bool IsConcreteSettingClass(const UClass* Class)
-	{
-		return Class->IsChildOf(UMoviePipelineSetting::StaticClass()) && !Class->HasAnyClassFlags(CLASS_Abstract);
-	}
-
+	// Deprecated setting classes stay findable by name although listings hide them.
 	UClass* ResolveSettingClass(const FString& Name)
 	{
-		const FString Prefixed = Name.StartsWith(TEXT("U"), ESearchCase::IgnoreCase) ? Name : TEXT("U") + Name;
-		const FString Unprefixed = Prefixed.RightChop(1);
-
-		// Both passes walk the same enumeration: nothing changes the classes in between.
-		TArray<UClass*> Candidates;
-		for (UObject* Object : EnumerateClasses())
-		{
-			UClass* Class = static_cast<UClass*>(Object);
-			if (IsConcreteSettingClass(Class))
-			{
-				Candidates.Add(Class);
-			}
-		}
-		for (UClass* Class : Candidates)
-		{
-			const FString ClassName = Class->GetName();
-			if (ClassName.Equals(Prefixed, ESearchCase::IgnoreCase) || ClassName.Equals(Unprefixed, ESearchCase::IgnoreCase))
-			{
-				return Class;
-			}
-		}
-		// Deprecated classes stay findable by name although listings hide them.
-		for (UClass* Class : Candidates)
-		{
-			if (Class->GetName().Contains(Unprefixed, ESearchCase::IgnoreCase))
-			{
-				return Class;
-			}
-		}
-		return nullptr;
+		return ResolveClassByScriptName(Name, UMoviePipelineSetting::StaticClass(), CLASS_Abstract);
 	}
 
 	UClass* ResolveSettingClassOrReport(const FString& Name, FLuaSessionData& Session, const FString& Label)

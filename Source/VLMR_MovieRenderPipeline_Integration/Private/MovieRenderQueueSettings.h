@@ -11,9 +11,6 @@ class UMoviePipelinePrimaryConfig;
 
 namespace VLMR
 {
-	// Every class in memory, in the engine's enumeration order.
-	TArray<UObject*> EnumerateClasses();
-
 	// A script's class name to a concrete setting class: the "U" prefix rule, an exact pass, then a substring pass.
 	UClass* ResolveSettingClass(const FString& Name);
 

@@ -105,11 +105,65 @@ local function save_handle_step(fz)
 	return step
 end
 
+-- Graph edits with arguments shaped as an artist's script writes them, so that nodes get made and wired and later calls
+-- find them: random arguments rarely name a node class, a node id and a pin at once.
+local NODE_CLASSES = { "MovieGraphGlobalOutputSettingNode", "GlobalGameOverrides", "RenderLayer", "SubgraphNode",
+	"MovieGraphVariableNode", "MovieGraphInputNode", "Reroute", "MultiLayerEXR", "Deferred", "MovieGraphSettingNode" }
+local PIN_LABELS = { "Globals", "", "Beauty", "NoSuchBranch", "None" }
+
+local function node_id(fz)
+	local ids = {}
+	for _, text in ipairs(fz.harvested) do
+		if text:match("^%x%x%x%x%x%x%x%x%-") then
+			ids[#ids + 1] = text
+		end
+	end
+	if #ids == 0 or math.random(3) == 1 then
+		return quoted(pick({ "input", "output", "INPUT" }))
+	end
+	return quoted(pick(ids))
+end
+
+local function graph_method_step(fz, method, ...)
+	local graphs = handles_with_method(fz, method)
+	if #graphs == 0 then
+		return nil
+	end
+	local entry = pick(graphs)
+	local arguments = table.pack(arg(entry.table, entry.name), ...)
+	local step = actions.call_step(entry.kind .. ":" .. method, rawget(entry.table, method), arguments, true)
+	step.text = entry.name .. ":" .. method .. "(" .. trace.arguments(table.pack(select(2, table.unpack(arguments, 1, arguments.n)))) .. ")"
+	return step
+end
+
+local function graph_edit_step(fz)
+	return values.weighted({
+		{ 3, function() return graph_method_step(fz, "add_node", quoted(pick(NODE_CLASSES)), quoted(pick({ "farm", "" }))) end },
+		{ 4, function() return graph_method_step(fz, "connect", node_id(fz), quoted(pick(PIN_LABELS)), node_id(fz), quoted(pick(PIN_LABELS))) end },
+		{ 2, function() return graph_method_step(fz, "disconnect", node_id(fz), quoted(pick(PIN_LABELS)), node_id(fz), quoted(pick(PIN_LABELS))) end },
+		{ 1, function() return graph_method_step(fz, "set_node_disabled", node_id(fz), literal(math.random(2) == 1)) end },
+		{ 1, function() return graph_method_step(fz, "add_output", quoted(pick({ "Beauty", "Globals", "" }))) end },
+		{ 1, function() return graph_method_step(fz, "delete_member", quoted(pick({ "Beauty", "Globals", "Variable", "Plates" }))) end },
+	})
+end
+
 local function create_graph_step(path)
 	if not editor.create_graph then
 		return nil
 	end
 	return editor_step("create_graph", quoted(path))
+end
+
+-- Every value type some engine version names, and one none does: the graph's variables reach every kind of value.
+local VALUE_TYPES = { "Bool", "Byte", "Int32", "Int64", "Float", "Double", "Name", "String", "Text", "Enum", "Struct",
+	"Object", "SoftObject", "Class", "SoftClass", "Int8", "Int16", "UInt16", "UInt32", "UInt64", "Nope" }
+
+local function typed_variable_step()
+	local graph, name, value_type = quoted(pick(GRAPH_ASSETS)), quoted(pick({ "Var", "Beauty", "" })), quoted(pick(VALUE_TYPES))
+	if math.random(3) == 1 then
+		return editor_step("add_typed_variable", graph, name, value_type, quoted(pick({ "Array", "Set", "Map" })))
+	end
+	return editor_step("add_typed_variable", graph, name, value_type)
 end
 
 local function create_sequence_step()
@@ -169,6 +223,8 @@ local ACTIONS = {
 	{ 3, save_handle_step },
 	{ 2, function() return editor_step("create_config", quoted(pick(CONFIG_ASSETS))) end },
 	{ 2, function() return create_graph_step(pick(GRAPH_ASSETS)) end },
+	{ 2, typed_variable_step },
+	{ 6, graph_edit_step },
 	{ 1, create_sequence_step },
 	{ 3, function() return editor_step("unload_package", quoted(pick(UNLOADABLE_PACKAGES))) end },
 	{ 2, function() return editor_step("delete_asset", quoted(pick(DELETABLE_PACKAGES))) end },
