@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "Graph/MovieGraphNode.h"
+#include "Graph/MovieGraphTraversalContext.h"
 #include "Graph/MovieGraphValueContainer.h"
 #include "Misc/Guid.h"
 #include "Templates/SubclassOf.h"
@@ -16,6 +17,8 @@
 class FBoolProperty;
 class FProperty;
 class UMovieGraphConfig;
+class UMovieGraphEvaluatedConfig;
+struct FMovieGraphTraversalContext;
 
 // A named value of a graph: a variable, an input or an output.
 UCLASS(MinimalAPI, Abstract)
@@ -191,6 +194,108 @@ public:
 	UE_API virtual bool SetMemberName(const FString& InNewName) override;
 };
 
+// The flattened nodes of one class and instance name on a branch (one per name; a stack while flattening).
+USTRUCT()
+struct FMovieGraphEvaluatedSettingsStack
+{
+	STANDIN_STRUCT_BODY(FMovieGraphEvaluatedSettingsStack, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UPROPERTY(Transient)
+	TArray<TObjectPtr<UMovieGraphNode>> NodeInstances;
+};
+
+// The flattened settings of one branch, keyed by node instance name (empty for ordinary nodes).
+USTRUCT()
+struct FMovieGraphEvaluatedBranchConfig
+{
+	STANDIN_STRUCT_BODY(FMovieGraphEvaluatedBranchConfig, MOVIERENDERPIPELINECORE_API)
+
+	friend class UMovieGraphConfig;
+
+public:
+	UE_API UMovieGraphNode* GetNodeByClassExactMatch(const TSubclassOf<UMovieGraphNode>& InClass, const FString& InName) const;
+
+	// Every flattened node of the branch, all instance names.
+	UE_API TArray<TObjectPtr<UMovieGraphNode>> GetNodes() const;
+
+	// Removes the nodes of exactly this class.
+	UE_API void RemoveNodesOfType(const TSubclassOf<UMovieGraphNode>& InClass);
+
+private:
+	UPROPERTY(Transient)
+	TMap<FString, FMovieGraphEvaluatedSettingsStack> NamedNodes;
+};
+
+// A graph flattened for one traversal: per branch, the setting nodes that apply, each holding the winning values.
+UCLASS(MinimalAPI, BlueprintType)
+class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphEvaluatedConfig : public UObject
+{
+	STANDIN_MINIMALAPI_CLASS_BODY(UMovieGraphEvaluatedConfig, UObject, MOVIERENDERPIPELINECORE_API)
+
+	friend class UMovieGraphConfig;
+
+public:
+	UE_API UMovieGraphEvaluatedConfig();
+
+	// The branches in the Output node's pin order, Globals first.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API const TArray<FName> GetBranchNames() const;
+
+	// The first of GetSettingsForBranch, or null.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API UMovieGraphSettingNode* GetSettingForBranch(UClass* InClass, const FName InBranchName, bool bIncludeCDOs = true, bool bExactMatch = false) const;
+
+	// The branch's flattened nodes of the class (or exactly the class), then the class default object when asked.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API TArray<UMovieGraphSettingNode*> GetSettingsForBranch(UClass* InClass, const FName InBranchName, bool bIncludeCDOs = true, bool bExactMatch = false) const;
+
+	template<typename NodeType>
+	NodeType* GetSettingForBranch(const FName InBranchName, bool bIncludeCDOs = true, bool bExactMatch = false) const
+	{
+		return Cast<NodeType>(GetSettingForBranch(NodeType::StaticClass(), InBranchName, bIncludeCDOs, bExactMatch));
+	}
+
+	template<typename NodeType>
+	TArray<NodeType*> GetSettingsForBranch(const FName InBranchName, bool bIncludeCDOs = true, bool bExactMatch = false) const
+	{
+		TArray<NodeType*> Typed;
+		for (UMovieGraphSettingNode* Node : GetSettingsForBranch(NodeType::StaticClass(), InBranchName, bIncludeCDOs, bExactMatch))
+		{
+			Typed.Add(static_cast<NodeType*>(Node));
+		}
+		return Typed;
+	}
+
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
+	// Not exported by the engine: other modules reach these through reflection.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (ReturnDisplayName = "Variable Exists"))
+	bool GetVariableValueByName(const FString& InVariableName, UMovieGraphValueContainer*& OutVariableValue) const;
+
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (ReturnDisplayName = "Variable Exists"))
+	bool GetVariableStringValueByName(const FString& InVariableName, const FString& InDefaultValue, FString& OutVariableValue) const;
+
+	// The root graph and every subgraph the flattening went through.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	const TArray<UMovieGraphConfig*>& GetEvaluatedGraphs() const;
+#endif
+
+	UPROPERTY(Transient)
+	TMap<FName, FMovieGraphEvaluatedBranchConfig> BranchConfigMapping;
+
+private:
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
+	// The resolved value of every user variable of every evaluated graph, parent-most graph first.
+	TMap<FString, TArray<TObjectPtr<UMovieGraphValueContainer>>> VariablesByName;
+
+	UPROPERTY(Transient)
+	TArray<TObjectPtr<UMovieGraphValueContainer>> VariableValues;
+
+	UPROPERTY(Transient)
+	TArray<TObjectPtr<UMovieGraphConfig>> EvaluatedGraphs;
+#endif
+};
+
 UCLASS(MinimalAPI, BlueprintType)
 class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphConfig : public UObject
 {
@@ -323,6 +428,27 @@ public:
 	// Input-node pin labels reachable upstream of the node through branch connections.
 	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
 	UE_API TArray<FString> GetUpstreamBranchNames(UMovieGraphNode* FromNode, const UMovieGraphPin* FromPin, const bool bStopAtSubgraph = false) const;
+
+	// Flattens the graph for the traversal: per Output-node branch, the setting nodes that apply with their winning
+	// values. Null with OutError on a cycle, an invalid connection or node validation errors.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API UMovieGraphEvaluatedConfig* CreateFlattenedGraph(const FMovieGraphTraversalContext& InContext, FString& OutError);
+
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
+	// The nodes of the class upstream of the branch's Output-node pin, nearest the Output first; subgraphs not entered.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (DeterminesOutputType = "InClass"))
+	UE_API TArray<UMovieGraphNode*> GetNodesForBranch(UClass* InClass, const FName& InBranchName, bool bExactMatch = false) const;
+
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (DeterminesOutputType = "InClass"))
+	UE_API UMovieGraphNode* GetNodeForBranch(UClass* InClass, const FName& InBranchName, bool bExactMatch = false) const;
+
+	// The nodes carrying the tag (exact, case-sensitive), on the branch when one is given, of the class when one is given.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (DeterminesOutputType = "OptionalClassFilter"))
+	UE_API TArray<UMovieGraphNode*> GetNodesForTag(const FString& ScriptTag, UClass* OptionalClassFilter = nullptr, const FName OptionalBranchFilter = NAME_None, bool bExactMatch = false) const;
+
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph", meta = (DeterminesOutputType = "OptionalClassFilter"))
+	UE_API UMovieGraphNode* GetNodeForTag(const FString& ScriptTag, UClass* OptionalClassFilter = nullptr, const FName OptionalBranchFilter = NAME_None, bool bExactMatch = false) const;
+#endif
 
 	// The bool property named "bOverride_" and the property's name, bitfields included.
 	UE_API static FBoolProperty* FindOverridePropertyForRealProperty(UClass* InClass, const FProperty* InRealProperty);
