@@ -198,6 +198,11 @@ EMovieGraphBranchRestriction UMovieGraphNode::GetBranchRestriction() const
 	return EMovieGraphBranchRestriction::Any;
 }
 
+bool UMovieGraphNode::GetNodeValidationErrors(const FName& InBranchName, const UMovieGraphEvaluatedConfig* InEvaluatedConfig, TArray<FText>& OutValidationErrors) const
+{
+	return false;
+}
+
 #if WITH_EDITOR
 void UMovieGraphNode::SetNodePosX(const int32 InNodePosX)
 {
@@ -227,6 +232,10 @@ FString UMovieGraphSettingNode::GetNodeInstanceName() const
 	return FString();
 }
 
+void UMovieGraphSettingNode::PostFlatten()
+{
+}
+
 STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphNode, CLASS_Abstract, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(ScriptTags, CPF_Edit | CPF_BlueprintVisible);
@@ -250,6 +259,7 @@ STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphNode, CLASS_Abstract, "MovieRender
 	STANDIN_FUNCTION(IsDisabled);
 	STANDIN_FUNCTION(CanBeAddedByUser);
 	STANDIN_FUNCTION(GetBranchRestriction);
+	STANDIN_FUNCTION(GetNodeValidationErrors, TEXT("InBranchName"), TEXT("InEvaluatedConfig"), TEXT("OutValidationErrors"));
 }
 
 STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphSettingNode, CLASS_Abstract, "MovieRenderPipelineCore")

@@ -18,6 +18,7 @@ class FBoolProperty;
 class FProperty;
 class UMovieGraphConfig;
 class UMovieGraphEvaluatedConfig;
+class UMovieGraphPipeline;
 struct FMovieGraphTraversalContext;
 
 // A named value of a graph: a variable, an input or an output.
@@ -109,6 +110,9 @@ public:
 	UE_API virtual bool IsDeletable() const override;
 	UE_API virtual bool CanRename(const FText& InNewName, FText& OutError) const override;
 
+	// Sets the value from the traversal (and the pipeline, which may be null).
+	virtual void UpdateValue(const FMovieGraphTraversalContext* InTraversalContext, const UMovieGraphPipeline* InPipeline) PURE_VIRTUAL(UMovieGraphGlobalVariable::UpdateValue, );
+
 protected:
 	// Names the global and gives it its type; globals are neither editable nor renamed.
 	void InitializeGlobal(const TCHAR* InName, EMovieGraphValueType InValueType);
@@ -121,6 +125,8 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphGlobalVar
 
 public:
 	UE_API UMovieGraphGlobalVariable_ShotName();
+
+	UE_API virtual void UpdateValue(const FMovieGraphTraversalContext* InTraversalContext, const UMovieGraphPipeline* InPipeline) override;
 };
 
 UCLASS(MinimalAPI, BlueprintType)
@@ -130,6 +136,8 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphGlobalVar
 
 public:
 	UE_API UMovieGraphGlobalVariable_SequenceName();
+
+	UE_API virtual void UpdateValue(const FMovieGraphTraversalContext* InTraversalContext, const UMovieGraphPipeline* InPipeline) override;
 };
 
 UCLASS(MinimalAPI, BlueprintType)
@@ -139,6 +147,8 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphGlobalVar
 
 public:
 	UE_API UMovieGraphGlobalVariable_FrameNumber();
+
+	UE_API virtual void UpdateValue(const FMovieGraphTraversalContext* InTraversalContext, const UMovieGraphPipeline* InPipeline) override;
 };
 
 UCLASS(MinimalAPI, BlueprintType)
@@ -148,6 +158,8 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphGlobalVar
 
 public:
 	UE_API UMovieGraphGlobalVariable_CameraName();
+
+	UE_API virtual void UpdateValue(const FMovieGraphTraversalContext* InTraversalContext, const UMovieGraphPipeline* InPipeline) override;
 };
 
 // An input or an output of a graph: a pin of its Input or Output node, a branch unless told otherwise.

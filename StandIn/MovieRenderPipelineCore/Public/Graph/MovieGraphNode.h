@@ -13,6 +13,7 @@
 #define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
 
 class UMovieGraphConfig;
+class UMovieGraphEvaluatedConfig;
 
 UCLASS(MinimalAPI, Abstract)
 class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphNode : public UObject
@@ -82,6 +83,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
 	UE_API virtual EMovieGraphBranchRestriction GetBranchRestriction() const;
 
+	// True with the messages in OutValidationErrors when the node's flattened settings cannot be used on the branch.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API virtual bool GetNodeValidationErrors(const FName& InBranchName, const UMovieGraphEvaluatedConfig* InEvaluatedConfig, TArray<FText>& OutValidationErrors) const;
+
 #if WITH_EDITOR
 	int32 GetNodePosX() const { return NodePosX; }
 	int32 GetNodePosY() const { return NodePosY; }
@@ -135,6 +140,9 @@ public:
 
 	// Tells apart several nodes of one class on a branch; empty for most nodes.
 	UE_API virtual FString GetNodeInstanceName() const;
+
+	// Called on each flattened node once every branch of the graph has been flattened.
+	UE_API virtual void PostFlatten();
 };
 
 #undef UE_API
