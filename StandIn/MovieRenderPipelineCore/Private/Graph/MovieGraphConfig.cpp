@@ -619,4 +619,11 @@ STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphConfig, CLASS_None, "MovieRenderPi
 	STANDIN_FUNCTION(DeleteMember, TEXT("MemberToDelete"));
 	STANDIN_FUNCTION(GetBranchNames);
 	STANDIN_FUNCTION(GetOutputDirectory, TEXT("OutOutputDirectory"));
+	STANDIN_FUNCTION(CreateFlattenedGraph, TEXT("InContext"), TEXT("OutError"));
+#if !UE_VERSION_OLDER_THAN(5, 6, 0)
+	STANDIN_FUNCTION(GetNodesForBranch, TEXT("InClass"), TEXT("InBranchName"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(GetNodeForBranch, TEXT("InClass"), TEXT("InBranchName"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(GetNodesForTag, TEXT("ScriptTag"), TEXT("OptionalClassFilter"), TEXT("OptionalBranchFilter"), TEXT("bExactMatch"));
+	STANDIN_FUNCTION(GetNodeForTag, TEXT("ScriptTag"), TEXT("OptionalClassFilter"), TEXT("OptionalBranchFilter"), TEXT("bExactMatch"));
+#endif
 }

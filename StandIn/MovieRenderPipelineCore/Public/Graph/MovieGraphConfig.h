@@ -476,6 +476,9 @@ protected:
 	TObjectPtr<UMovieGraphNode> OutputNode;
 
 private:
+	// Walks the branches for CreateFlattenedGraph.
+	class FFlattener;
+
 	// The "Globals" input and output, then the four global variables, each only when missing.
 	void AddDefaultMembers();
 	void AddGlobalVariableIfMissing(UClass* InGlobalClass);
