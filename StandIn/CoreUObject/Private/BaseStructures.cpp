@@ -7,6 +7,7 @@
 #include "Misc/FrameRate.h"
 #include "Misc/Guid.h"
 #include "Misc/Timecode.h"
+#include "Misc/Timespan.h"
 #include "Math/Color.h"
 #include "Math/IntPoint.h"
 #include "Math/IntRect.h"
@@ -103,6 +104,14 @@ STANDIN_IMPLEMENT_BASE_STRUCTURE(FDateTime, "CoreUObject")
 	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
 	Builder.AddProperty<int64>(TEXT("Ticks"), 0, CPF_None);
 	Builder.SetNativeTextItem(&ExportDateTimeText, &ImportDateTimeText);
+}
+
+STANDIN_IMPLEMENT_BASE_STRUCTURE(FTimespan, "CoreUObject")
+{
+	// The only member of FTimespan is its private Ticks count.
+	static_assert(sizeof(FTimespan) == sizeof(int64), "FTimespan holds nothing but its ticks");
+	Builder.AddStructFlags(STRUCT_Atomic | STRUCT_Immutable);
+	Builder.AddProperty<int64>(TEXT("Ticks"), 0, CPF_None);
 }
 
 STANDIN_IMPLEMENT_BASE_STRUCTURE(FTimecode, "CoreUObject")

@@ -21,16 +21,8 @@ namespace UE::MoviePipeline::Private
 	// Stand-in choice: every frame comes from the one final-image pass the deferred renderer would produce.
 	static const TCHAR* const FinalImagePassName = TEXT("FinalImage");
 
-	// Stand-in choice: the search for a free "_(N)" name gives up here instead of looping forever.
-	constexpr int32 MaxDuplicateIndex = 100000;
-
 	// Stand-in choice: an over-long path is named in the log by its start only.
 	constexpr int32 LoggedPathLength = 200;
-
-	static bool CanWriteToFile(const FString& InFilename, bool bOverwriteExisting)
-	{
-		return bOverwriteExisting || IFileManager::Get().FileSize(*InFilename) == -1;
-	}
 
 	// The text FString::Format writes for the argument.
 	static FString FormatArgToString(const FStringFormatArg& InArgument)
@@ -382,20 +374,15 @@ void UMoviePipeline::ResolveFilenameFormatArguments(const FString& InFormatStrin
 	}
 
 	const FString Extension = FormatArguments(TEXT(".{ext}"), OutFinalFormatArgs.FilenameArguments);
-	auto ResolvePath = [&InFormatString, &OutFinalFormatArgs, &Extension]()
+	auto ResolvePath = [&InFormatString, &Extension](const TMap<FString, FString>& InArguments)
 	{
-		FString BaseFilename = FormatArguments(InFormatString, OutFinalFormatArgs.FilenameArguments);
+		FString BaseFilename = FormatArguments(InFormatString, InArguments);
 		BaseFilename.RemoveFromEnd(TEXT("."));
 		return MakeOutputPathAbsolute(BaseFilename + Extension);
 	};
 
 	const bool bOverwriteExisting = !OutputSetting || OutputSetting->bOverrideExistingOutput;
-	OutFinalPath = ResolvePath();
-	for (int32 DuplicateIndex = 2; FitsMaxPathLength(OutFinalPath) && !CanWriteToFile(OutFinalPath, bOverwriteExisting) && DuplicateIndex <= MaxDuplicateIndex; ++DuplicateIndex)
-	{
-		OutFinalFormatArgs.FilenameArguments.Add(TEXT("file_dup"), FString::Printf(TEXT("_(%d)"), DuplicateIndex));
-		OutFinalPath = ResolvePath();
-	}
+	OutFinalPath = ResolveWritablePath(OutFinalFormatArgs.FilenameArguments, bOverwriteExisting, ResolvePath);
 	if (!FitsMaxPathLength(OutFinalPath))
 	{
 		RefuseOverlongPath(OutFinalPath);

@@ -12,6 +12,14 @@ namespace UE::MoviePipeline::StandIn
 	static const TCHAR* const VersionToken = TEXT("{version}");
 	constexpr int32 VersionDigits = 3;
 
+	// Stand-in choice: the search for a free "_(N)" name gives up here instead of looping forever.
+	constexpr int32 MaxDuplicateIndex = 100000;
+
+	static bool CanWriteToFile(const FString& InFilename, bool bOverwriteExisting)
+	{
+		return bOverwriteExisting || IFileManager::Get().FileSize(*InFilename) == -1;
+	}
+
 	// The number of the first "v" followed by three digits in InName (the engine's pattern v([0-9]{3})), or INDEX_NONE.
 	static int32 ParseVersion(const FString& InName)
 	{
@@ -45,6 +53,12 @@ void UE::MoviePipeline::StandIn::AddJobFormatArguments(TMap<FString, FString>& I
 	InOutArguments.Add(TEXT("sequence_name"), InJob.Sequence.GetAssetName());
 	InOutArguments.Add(TEXT("job_name"), InJob.JobName);
 	InOutArguments.Add(TEXT("job_author"), InJob.Author.Len() > 0 ? InJob.Author : FString(FPlatformProcess::UserName(false)));
+	AddRenderFormatArguments(InOutArguments, InFrameRate, InInitializationTime, InVersion);
+}
+
+void UE::MoviePipeline::StandIn::AddRenderFormatArguments(TMap<FString, FString>& InOutArguments, const FFrameRate& InFrameRate,
+	const FDateTime& InInitializationTime, int32 InVersion)
+{
 	InOutArguments.Add(TEXT("frame_rate"), FString::SanitizeFloat(InFrameRate.AsDecimal()));
 	InOutArguments.Add(TEXT("date"), InInitializationTime.ToString(TEXT("%Y.%m.%d")));
 	InOutArguments.Add(TEXT("time"), InInitializationTime.ToString(TEXT("%H.%M.%S")));
@@ -87,6 +101,18 @@ FString UE::MoviePipeline::StandIn::MakeOutputPathAbsolute(const FString& InPath
 bool UE::MoviePipeline::StandIn::FitsMaxPathLength(const FString& InPath)
 {
 	return InPath.Len() <= FPlatformMisc::GetMaxPathLength();
+}
+
+FString UE::MoviePipeline::StandIn::ResolveWritablePath(TMap<FString, FString>& InOutArguments, bool bOverwriteExisting,
+	TFunctionRef<FString(const TMap<FString, FString>&)> InResolvePath)
+{
+	FString Path = InResolvePath(InOutArguments);
+	for (int32 DuplicateIndex = 2; FitsMaxPathLength(Path) && !CanWriteToFile(Path, bOverwriteExisting) && DuplicateIndex <= MaxDuplicateIndex; ++DuplicateIndex)
+	{
+		InOutArguments.Add(TEXT("file_dup"), FString::Printf(TEXT("_(%d)"), DuplicateIndex));
+		Path = InResolvePath(InOutArguments);
+	}
+	return Path;
 }
 
 int32 UE::MoviePipeline::StandIn::FindHighestExistingVersion(const FString& InFormatString, const TMap<FString, FString>& InArguments)

@@ -8,13 +8,19 @@
 #include "CoreMinimal.h"
 #include "Misc/DateTime.h"
 #include "Misc/FrameRate.h"
+#include "Templates/Function.h"
 
 class UMoviePipelineExecutorJob;
 
 namespace UE::MoviePipeline::StandIn
 {
-	// Adds the tokens a job gives every output name: level_name, sequence_name, job_name, job_author (the user name
-	// when the job has no author), frame_rate, date, time, year, month and day (of InInitializationTime) and version.
+	// Adds the tokens every render gives its output names: frame_rate, date, time, year, month and day (of
+	// InInitializationTime) and version.
+	MOVIERENDERPIPELINECORE_API void AddRenderFormatArguments(TMap<FString, FString>& InOutArguments, const FFrameRate& InFrameRate,
+		const FDateTime& InInitializationTime, int32 InVersion);
+
+	// Adds the render's tokens and those of the job: level_name, sequence_name, job_name and job_author (the user name
+	// when the job has no author).
 	MOVIERENDERPIPELINECORE_API void AddJobFormatArguments(TMap<FString, FString>& InOutArguments, const UMoviePipelineExecutorJob& InJob,
 		const FFrameRate& InFrameRate, const FDateTime& InInitializationTime, int32 InVersion);
 
@@ -34,6 +40,11 @@ namespace UE::MoviePipeline::StandIn
 
 	// Whether InPath fits in the platform's maximum path length, so that a file can be written there.
 	MOVIERENDERPIPELINECORE_API bool FitsMaxPathLength(const FString& InPath);
+
+	// The path InResolvePath makes of InOutArguments; while a file that must not be overwritten is in the way, file_dup
+	// is set to "_(2)", "_(3)", ... and the path made again. file_dup is left holding the value of the returned path.
+	MOVIERENDERPIPELINECORE_API FString ResolveWritablePath(TMap<FString, FString>& InOutArguments, bool bOverwriteExisting,
+		TFunctionRef<FString(const TMap<FString, FString>&)> InResolvePath);
 
 	// The highest version earlier renders left for the output InFormatString names, once its other tokens are resolved
 	// with InArguments: among the files and folders in the folder that holds the first {version} token, the number of

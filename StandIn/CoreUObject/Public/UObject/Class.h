@@ -326,6 +326,7 @@ template<> struct TBaseStructure<FGuid> { COREUOBJECT_API static UScriptStruct* 
 template<> struct TBaseStructure<FFrameRate> { COREUOBJECT_API static UScriptStruct* Get(); };
 template<> struct TBaseStructure<FFrameNumber> { COREUOBJECT_API static UScriptStruct* Get(); };
 template<> struct TBaseStructure<FDateTime> { COREUOBJECT_API static UScriptStruct* Get(); };
+template<> struct TBaseStructure<FTimespan> { COREUOBJECT_API static UScriptStruct* Get(); };
 template<> struct TBaseStructure<FTimecode> { COREUOBJECT_API static UScriptStruct* Get(); };
 
 // The struct of any reflected struct type: its own StaticStruct() or its TBaseStructure.
