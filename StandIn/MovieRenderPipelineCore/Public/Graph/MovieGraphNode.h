@@ -14,6 +14,8 @@
 
 class UMovieGraphConfig;
 class UMovieGraphEvaluatedConfig;
+struct FMovieGraphRenderDataIdentifier;
+struct FMovieGraphResolveArgs;
 
 UCLASS(MinimalAPI, Abstract)
 class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphNode : public UObject
@@ -143,6 +145,9 @@ public:
 
 	// Called on each flattened node once every branch of the graph has been flattened.
 	UE_API virtual void PostFlatten();
+
+	// Adds the file name tokens and file metadata the node gives the outputs of the render data; none by default.
+	virtual void GetFormatResolveArgs(FMovieGraphResolveArgs& OutMergedFormatArgs, const FMovieGraphRenderDataIdentifier& InRenderDataIdentifier) const {}
 };
 
 #undef UE_API

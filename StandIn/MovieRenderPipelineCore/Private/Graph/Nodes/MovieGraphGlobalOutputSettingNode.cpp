@@ -1,11 +1,27 @@
 #include "Graph/Nodes/MovieGraphGlobalOutputSettingNode.h"
 
+#include "Graph/MovieGraphBlueprintLibrary.h"
+#include "Graph/MovieGraphFilenameResolveParams.h"
 #include "Graph/MovieGraphStandInNodeReflection.h"
+#include "Misc/Paths.h"
 #include "UObject/UnrealType.h"
 
 UMovieGraphGlobalOutputSettingNode::UMovieGraphGlobalOutputSettingNode()
 {
 	OutputDirectory.Path = TEXT("{project_dir}/Saved/MovieRenders/");
+}
+
+void UMovieGraphGlobalOutputSettingNode::GetFormatResolveArgs(FMovieGraphResolveArgs& OutMergedFormatArgs, const FMovieGraphRenderDataIdentifier& InRenderDataIdentifier) const
+{
+	const FString ProjectDir = FPaths::ConvertRelativePathToFull(FPaths::ProjectDir());
+	const FIntPoint Resolution = UMovieGraphBlueprintLibrary::IsNamedResolutionValid(OutputResolution.ProfileName)
+		? UMovieGraphBlueprintLibrary::NamedResolutionFromProfile(OutputResolution.ProfileName).Resolution
+		: OutputResolution.Resolution;
+	OutMergedFormatArgs.FilenameArguments.Add(TEXT("project_dir"), ProjectDir);
+	OutMergedFormatArgs.FilenameArguments.Add(TEXT("output_resolution"), FString::Printf(TEXT("%d_%d"), Resolution.X, Resolution.Y));
+	OutMergedFormatArgs.FilenameArguments.Add(TEXT("output_width"), FString::FromInt(Resolution.X));
+	OutMergedFormatArgs.FilenameArguments.Add(TEXT("output_height"), FString::FromInt(Resolution.Y));
+	OutMergedFormatArgs.FileMetadata.Add(TEXT("unreal/project_dir"), ProjectDir);
 }
 
 #if !UE_VERSION_OLDER_THAN(5, 6, 0)

@@ -73,6 +73,9 @@ public:
 
 	virtual EMovieGraphBranchRestriction GetBranchRestriction() const override { return EMovieGraphBranchRestriction::Globals; }
 
+	// project_dir, output_resolution ("<W>_<H>"), output_width and output_height, and the project folder as metadata.
+	UE_API virtual void GetFormatResolveArgs(FMovieGraphResolveArgs& OutMergedFormatArgs, const FMovieGraphRenderDataIdentifier& InRenderDataIdentifier) const override;
+
 #if !UE_VERSION_OLDER_THAN(5, 6, 0)
 	// Moves the frames of the integer playback range, saved before 5.6, into the range bounds.
 	UE_API virtual void PostLoad() override;
