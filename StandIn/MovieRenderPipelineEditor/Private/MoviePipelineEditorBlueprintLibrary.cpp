@@ -2,7 +2,11 @@
 
 #include "Editor.h"
 #include "Engine/World.h"
+#include "Graph/MovieGraphBlueprintLibrary.h"
+#include "Graph/MovieGraphConfig.h"
+#include "Graph/Nodes/MovieGraphGlobalOutputSettingNode.h"
 #include "LevelSequence.h"
+#include "MovieScene.h"
 #include "Misc/DateTime.h"
 #include "MoviePipelineOutputSetting.h"
 #include "MoviePipelinePrimaryConfig.h"
@@ -10,6 +14,7 @@
 #include "MoviePipelineStandInFileNaming.h"
 #include "MovieRenderPipelineDataTypes.h"
 #include "MovieRenderPipelineSettings.h"
+#include "UObject/StrongObjectPtr.h"
 #include "UObject/UnrealType.h"
 
 #define LOCTEXT_NAMESPACE "MoviePipelineEditorBlueprintLibrary"
@@ -45,6 +50,48 @@ namespace UE::MoviePipeline
 		Arguments.Add(TEXT("camera_name"), UnresolvableToken);
 		Arguments.Add(TEXT("file_dup"), FString());
 		return MoveTemp(Arguments);
+	}
+
+	// The tokens of one render's data stay unresolved in a graph's output directory, so that the path is cut before them.
+	static const TCHAR* const GraphRenderDataTokens[] = { TEXT("shot_name"), TEXT("camera_name"), TEXT("layer_name"), TEXT("renderer_name"), TEXT("renderer_sub_name"), TEXT("branch_name") };
+
+	// Stand-in choice: the sequence's display rate is the frame rate a graph without an override renders at.
+	static FFrameRate GetSequenceFrameRate(const UMoviePipelineExecutorJob& InJob)
+	{
+		const ULevelSequence* Sequence = Cast<ULevelSequence>(InJob.Sequence.ResolveObject());
+		return Sequence && Sequence->GetMovieScene() ? Sequence->GetMovieScene()->GetDisplayRate() : FFrameRate(24, 1);
+	}
+
+	// Stand-in choice: as for configurations, the version of an auto-versioned output directory is the highest one
+	// found on disk among the outputs of every branch (0 for none).
+	static int32 GetCurrentGraphVersion(const FMovieGraphFilenameResolveParams& InParams)
+	{
+		int32 Version = 0;
+		for (const FName& BranchName : InParams.EvaluatedConfig->GetBranchNames())
+		{
+			FMovieGraphFilenameResolveParams BranchParams = InParams;
+			BranchParams.RenderDataIdentifier.RootBranchName = BranchName;
+			Version = FMath::Max(Version, UMovieGraphBlueprintLibrary::ResolveVersionNumber(BranchParams, false));
+		}
+		return Version;
+	}
+
+	static FMovieGraphFilenameResolveParams MakeDirectoryResolveParams(UMoviePipelineExecutorJob& InJob, UMovieGraphEvaluatedConfig& InEvaluatedConfig,
+		const UMovieGraphGlobalOutputSettingNode& InOutputSettings)
+	{
+		FMovieGraphFilenameResolveParams Params;
+		Params.Job = &InJob;
+		Params.EvaluatedConfig = &InEvaluatedConfig;
+		Params.InitializationTime = FDateTime::Now();
+		Params.ZeroPadFrameNumberCount = InOutputSettings.ZeroPadFrameNumbers;
+		Params.FrameNumberOffset = InOutputSettings.FrameNumberOffset;
+		Params.DefaultFrameRate = GetSequenceFrameRate(InJob);
+		Params.Version = GetCurrentGraphVersion(Params);
+		for (const TCHAR* Token : GraphRenderDataTokens)
+		{
+			Params.FileNameFormatOverrides.Add(Token, UnresolvableToken);
+		}
+		return Params;
 	}
 
 	// Cuts the path after the last folder separator before its first unresolved token.
@@ -127,40 +174,73 @@ bool UMoviePipelineEditorBlueprintLibrary::GetDisplayOutputPathFromJob(UMoviePip
 	return true;
 }
 
+namespace UE::MoviePipeline
+{
+	// The directory the pipeline would write to with the job's configuration, as far as it is known before the render.
+	static FString ResolveConfigOutputDirectory(UMoviePipelineExecutorJob& InJob, FText& OutError)
+	{
+		const UMoviePipelineOutputSetting* OutputSetting = InJob.GetConfiguration() ? InJob.GetConfiguration()->FindSetting<UMoviePipelineOutputSetting>() : nullptr;
+		if (!OutputSetting)
+		{
+			// Stand-in choice: the reason given when the job has no resolvable configuration.
+			OutError = LOCTEXT("ResolveOutputDir_NoConfiguration", "The job's configuration does not name an output directory.");
+			return FString();
+		}
+		FString ResolvedPath = StandIn::MakeOutputPathAbsolute(StandIn::FormatArguments(OutputSetting->OutputDirectory.Path, GatherDirectoryArguments(InJob, *OutputSetting)));
+		TrimAtFirstUnresolvedToken(ResolvedPath);
+		return ResolvedPath;
+	}
+
+	// The Globals output directory of the job's graph flattened for the job, as far as it is known before the render.
+	static FString ResolveGraphOutputDirectory(UMoviePipelineExecutorJob& InJob, FText& OutError)
+	{
+		UMovieGraphConfig* Graph = InJob.GetGraphPreset();
+		if (!Graph)
+		{
+			// Stand-in choice: the reason given when the job's graph cannot be loaded.
+			OutError = LOCTEXT("ResolveOutputDir_NoGraph", "The job's graph preset could not be loaded.");
+			return FString();
+		}
+		FMovieGraphTraversalContext Context;
+		Context.Job = &InJob;
+		Context.RootGraph = Graph;
+		FString FlattenError;
+		const TStrongObjectPtr<UMovieGraphEvaluatedConfig> EvaluatedConfig(Graph->CreateFlattenedGraph(Context, FlattenError));
+		if (!EvaluatedConfig)
+		{
+			OutError = FText::FromString(FlattenError);
+			return FString();
+		}
+		const UMovieGraphGlobalOutputSettingNode* OutputSettings = EvaluatedConfig->GetSettingForBranch<UMovieGraphGlobalOutputSettingNode>(UMovieGraphNode::GlobalsPinName);
+		const FMovieGraphFilenameResolveParams Params = MakeDirectoryResolveParams(InJob, *EvaluatedConfig, *OutputSettings);
+		FMovieGraphResolveArgs MergedArgs;
+		FString ResolvedPath = UMovieGraphBlueprintLibrary::ResolveFilenameFormatArguments(OutputSettings->OutputDirectory.Path, Params, MergedArgs);
+		TrimAtFirstUnresolvedToken(ResolvedPath);
+		return ResolvedPath;
+	}
+
+	static FString ResolveJobOutputDirectory(UMoviePipelineExecutorJob* InJob, FText& OutError)
+	{
+		if (!InJob)
+		{
+			OutError = LOCTEXT("ResolveOutputDir_NullJob", "No job was provided.");
+			return FString();
+		}
+		return InJob->IsUsingGraphConfiguration() ? ResolveGraphOutputDirectory(*InJob, OutError) : ResolveConfigOutputDirectory(*InJob, OutError);
+	}
+}
+
 FString UMoviePipelineEditorBlueprintLibrary::ResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob)
 {
-	using namespace UE::MoviePipeline;
-
-	// Stand-in choice: a job rendering with a graph has no output directory until graphs can be evaluated.
-	const UMoviePipelineOutputSetting* OutputSetting = InJob && InJob->GetConfiguration() && !InJob->IsUsingGraphConfiguration()
-		? InJob->GetConfiguration()->FindSetting<UMoviePipelineOutputSetting>() : nullptr;
-	if (!OutputSetting)
-	{
-		return FString();
-	}
-	// The directory the pipeline would write to, as far as it is known before the render.
-	const FString FormatString = OutputSetting->OutputDirectory.Path;
-	FString ResolvedPath = StandIn::MakeOutputPathAbsolute(StandIn::FormatArguments(FormatString, GatherDirectoryArguments(*InJob, *OutputSetting)));
-	TrimAtFirstUnresolvedToken(ResolvedPath);
-	return ResolvedPath;
+	FText Error;
+	return UE::MoviePipeline::ResolveJobOutputDirectory(InJob, Error);
 }
 
 #if !UE_VERSION_OLDER_THAN(5, 8, 0)
 FString UMoviePipelineEditorBlueprintLibrary::TryResolveOutputDirectoryFromJob(UMoviePipelineExecutorJob* InJob, FText& OutError)
 {
 	OutError = FText::GetEmpty();
-	if (!InJob)
-	{
-		OutError = LOCTEXT("ResolveOutputDir_NullJob", "No job was provided.");
-		return FString();
-	}
-	const FString ResolvedPath = ResolveOutputDirectoryFromJob(InJob);
-	if (ResolvedPath.IsEmpty())
-	{
-		// Stand-in choice: the reason given when the job has no resolvable configuration.
-		OutError = LOCTEXT("ResolveOutputDir_NoConfiguration", "The job's configuration does not name an output directory.");
-	}
-	return ResolvedPath;
+	return UE::MoviePipeline::ResolveJobOutputDirectory(InJob, OutError);
 }
 #endif
 
