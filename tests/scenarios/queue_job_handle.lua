@@ -8,8 +8,9 @@ for key, value in pairs(job) do
 	end
 end
 table.sort(names)
-check.eq(names, { "find_or_add_setting", "info", "is_consumed", "list_settings", "remove_setting", "set_author",
-	"set_comment", "set_config", "set_consumed", "set_enabled", "set_graph", "set_job_name", "set_map", "set_sequence" },
+check.eq(names, { "evaluate", "find_or_add_setting", "info", "is_consumed", "list_settings", "output_directory",
+	"remove_setting", "set_author", "set_comment", "set_config", "set_consumed", "set_enabled", "set_graph", "set_job_name",
+	"set_map", "set_sequence" },
 	"job methods")
 
 editor.clear_log()

@@ -4,11 +4,7 @@
 -- Names the graph side adds when it lands. While a name is listed here it must be absent; the change that installs it
 -- removes it from this list.
 local PENDING = {
-	"mrg_support", "mrg_named_resolutions", "mrg_named_resolution", "mrg_resolve_format", "mrg_resolve_version",
 	"mrg_pipeline_status", "mrg_request_shutdown",
-	"job:output_directory", "job:evaluate",
-	"graph:evaluate", "graph:output_settings", "graph:resolution", "graph:output_directory", "graph:branches",
-	"graph:nodes_for_branch", "graph:nodes_for_tag",
 	"graph:get_node_property", "graph:set_node_property", "graph:get_variable", "graph:set_variable", "graph:remove_node",
 	"graph:insert_before", "graph:insert_after",
 }

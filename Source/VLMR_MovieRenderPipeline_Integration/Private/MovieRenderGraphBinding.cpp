@@ -3,21 +3,30 @@
 #include "Graph/MovieGraphConfig.h"
 #include "LuaSessionData.h"
 #include "MoviePipelineQueue.h"
+#include "MovieRenderGraphEvaluation.h"
+#include "MovieRenderGraphGlobals.h"
+#include "VLMRScriptArguments.h"
 
 void BindMovieRenderGraphGlobals(sol::state& Lua, FLuaSessionData& Session)
 {
-	// The graph globals are installed here as the capability probe, resolution and pipeline functions are built.
+	using namespace VLMR;
+	FLuaSessionData* S = &Session;
+	Lua.set_function("mrg_support", [](sol::this_state L) { return GetSupport(L); });
+	Lua.set_function("mrg_named_resolutions", [S](sol::this_state L) { return GetNamedResolutions(L, *S); });
+	Lua.set_function("mrg_named_resolution", [S](sol::this_state L, sol::object ProfileOrSize) { return GetNamedResolution(L, *S, ProfileOrSize); });
+	Lua.set_function("mrg_resolve_format", [S](sol::this_state L, const FScriptText& Format, sol::object Options) { return ResolveFormat(L, *S, Format.Value, Options); });
+	Lua.set_function("mrg_resolve_version", [S](sol::this_state L, sol::object Options) { return ResolveVersion(L, *S, Options); });
 }
 
 namespace VLMRMovieRenderGraph
 {
 	void ExtendGraphHandle(sol::state_view& Lua, sol::table& Handle, TWeakObjectPtr<UMovieGraphConfig> Graph, FLuaSessionData& Session)
 	{
-		// Evaluation and node-property methods join the graph handle as they are built.
+		VLMR::AddGraphEvaluationMethods(Handle, Graph, &Session);
 	}
 
 	void ExtendJobHandle(sol::state_view& Lua, sol::table& Handle, TWeakObjectPtr<UMoviePipelineExecutorJob> Job, FLuaSessionData& Session)
 	{
-		// The job's output directory and graph evaluation join the job handle as they are built.
+		VLMR::AddJobEvaluationMethods(Handle, Job, &Session);
 	}
 }

@@ -34,6 +34,22 @@ namespace VLMR
 	// The version refusal of a gated facility, through Unsupported.
 	sol::table RefuseGatedFeature(sol::state_view Lua, FLuaSessionData& Session, const FString& Label, EGatedFeature Feature);
 
+	// What the Movie Render Graph offers scripts on the engine this module is built against.
+	struct FGraphCapabilities
+	{
+		bool bResolutionQueries = false;
+		bool bNodeSearch = false;
+		bool bPlaybackRangeBound = false;
+		bool bFormatArguments = false;
+		bool bEvaluatedVariables = false;
+		bool bInsertNodes = false;
+		bool bOutputDirectoryReason = false;
+		bool bAdaptResolution = false;
+		bool bSmallIntVariables = false;
+	};
+
+	const FGraphCapabilities& GetGraphCapabilities();
+
 	// "5.7.4": the engine version this module is built against.
 	FString GetEngineVersionString();
 }

@@ -208,6 +208,29 @@ local function reentrant(fz)
 	return arg(value, text)
 end
 
+-- Option tables as the graph calls read them: known keys with values of every kind, sometimes behind a metatable
+-- whose __index runs script code.
+local OPTION_KEYS = { "job", "shot_index", "overscan", "aspect_ratio", "graph", "root_frame", "shot_frame", "zero_pad",
+	"frame_offset", "version", "next", "as_path", "ensure_absolute", "file_name_override", "format_overrides", "width", "height" }
+
+local function option_table(fz)
+	local options, texts = {}, {}
+	for _ = 1, math.random(1, 4) do
+		local key = pick(OPTION_KEYS)
+		local value = values.weighted({ { 4, integer }, { 2, float }, { 2, realistic_string }, { 1, hostile_string },
+			{ 1, boolean }, { 1, reentrant } }, fz)
+		options[key] = value.value
+		texts[#texts + 1] = key .. " = " .. value.text
+	end
+	local text = "{ " .. table.concat(texts, ", ") .. " }"
+	if math.random(4) == 1 then
+		local hook = reentrant(fz)
+		return arg(setmetatable(options, { __index = function() return hook.value end }),
+			"setmetatable(" .. text .. ", { __index = function() return " .. hook.text .. " end })")
+	end
+	return arg(options, text)
+end
+
 local GENERATORS = {
 	{ 34, realistic_string },
 	{ 12, hostile_string },
@@ -220,6 +243,7 @@ local GENERATORS = {
 	{ 5, handle_shaped },
 	{ 4, reentrant },
 	{ 3, callable_or_thread },
+	{ 5, option_table },
 }
 
 function values.any(fz)
@@ -231,7 +255,7 @@ local GENERATORS_LIKE = {
 	string = { { 3, realistic_string }, { 2, hostile_string }, { 1, numeric_string } },
 	number = { { 3, integer }, { 1, float } },
 	boolean = { { 1, boolean } },
-	table = { { 2, handle }, { 2, handle_shaped }, { 2, reentrant } },
+	table = { { 2, handle }, { 2, handle_shaped }, { 2, reentrant }, { 2, option_table } },
 	userdata = { { 1, reentrant }, { 1, callable_or_thread } },
 }
 

@@ -137,8 +137,14 @@ namespace UE::MovieGraph::Private
 	}
 
 	// The GOS output directory joined with each File Output and Command Line Encoder node's name of the branch.
-	static TArray<FString> GatherOutputFormatStrings(const UMovieGraphEvaluatedConfig& InEvaluatedConfig, const FString& InOutputDirectory, const FName& InBranchName)
+	// Stand-in choice: a file name override replaces each output's file name format, under the output directory.
+	static TArray<FString> GatherOutputFormatStrings(const UMovieGraphEvaluatedConfig& InEvaluatedConfig, const FString& InOutputDirectory, const FName& InBranchName,
+		const FString& InFileNameOverride)
 	{
+		auto PathFor = [&InOutputDirectory, &InFileNameOverride](const FString& InFileNameFormat)
+		{
+			return InOutputDirectory / (InFileNameOverride.IsEmpty() ? InFileNameFormat : InFileNameOverride);
+		};
 		TArray<FString> FormatStrings;
 		if (!InEvaluatedConfig.BranchConfigMapping.Contains(InBranchName))
 		{
@@ -146,11 +152,11 @@ namespace UE::MovieGraph::Private
 		}
 		for (const UMovieGraphFileOutputNode* Node : InEvaluatedConfig.GetSettingsForBranch<UMovieGraphFileOutputNode>(InBranchName, false))
 		{
-			FormatStrings.Add(InOutputDirectory / Node->FileNameFormat);
+			FormatStrings.Add(PathFor(Node->FileNameFormat));
 		}
 		for (const UMovieGraphCommandLineEncoderNode* Node : InEvaluatedConfig.GetSettingsForBranch<UMovieGraphCommandLineEncoderNode>(InBranchName, false))
 		{
-			FormatStrings.Add(InOutputDirectory / Node->FileNameFormat);
+			FormatStrings.Add(PathFor(Node->FileNameFormat));
 		}
 		return FormatStrings;
 	}
@@ -206,9 +212,9 @@ int32 UMovieGraphBlueprintLibrary::ResolveVersionNumber(FMovieGraphFilenameResol
 	FMovieGraphResolveArgs MergedArgs;
 	ResolveFormatArguments(FString(), InParams, MergedArgs);
 	int32 HighestVersion = INDEX_NONE;
-	for (const FString& FormatString : GatherOutputFormatStrings(*InParams.EvaluatedConfig, OutputSettings->OutputDirectory.Path, InParams.RenderDataIdentifier.RootBranchName))
+	for (const FString& OutputPath : GatherOutputFormatStrings(*InParams.EvaluatedConfig, OutputSettings->OutputDirectory.Path,
+		InParams.RenderDataIdentifier.RootBranchName, InParams.FileNameOverride))
 	{
-		const FString OutputPath = InParams.FileNameOverride.IsEmpty() ? FormatString : InParams.FileNameOverride;
 		HighestVersion = FMath::Max(HighestVersion, FindHighestExistingVersion(StripGraphTokenNamespace(OutputPath), MergedArgs.FilenameArguments));
 	}
 	return bGetNextVersion ? HighestVersion + 1 : HighestVersion;
