@@ -5,8 +5,6 @@
 -- removes it from this list.
 local PENDING = {
 	"mrg_pipeline_status", "mrg_request_shutdown",
-	"graph:get_node_property", "graph:set_node_property", "graph:get_variable", "graph:set_variable", "graph:remove_node",
-	"graph:insert_before", "graph:insert_after",
 }
 
 local GLOBALS = {

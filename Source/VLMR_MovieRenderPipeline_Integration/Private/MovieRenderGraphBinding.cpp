@@ -5,6 +5,7 @@
 #include "MoviePipelineQueue.h"
 #include "MovieRenderGraphEvaluation.h"
 #include "MovieRenderGraphGlobals.h"
+#include "MovieRenderGraphNodeEditing.h"
 #include "VLMRScriptArguments.h"
 
 void BindMovieRenderGraphGlobals(sol::state& Lua, FLuaSessionData& Session)
@@ -23,6 +24,7 @@ namespace VLMRMovieRenderGraph
 	void ExtendGraphHandle(sol::state_view& Lua, sol::table& Handle, TWeakObjectPtr<UMovieGraphConfig> Graph, FLuaSessionData& Session)
 	{
 		VLMR::AddGraphEvaluationMethods(Handle, Graph, &Session);
+		VLMR::AddNodeEditingMethods(Handle, Graph, &Session);
 	}
 
 	void ExtendJobHandle(sol::state_view& Lua, sol::table& Handle, TWeakObjectPtr<UMoviePipelineExecutorJob> Job, FLuaSessionData& Session)

@@ -110,6 +110,9 @@ end
 local NODE_CLASSES = { "MovieGraphGlobalOutputSettingNode", "GlobalGameOverrides", "RenderLayer", "SubgraphNode",
 	"MovieGraphVariableNode", "MovieGraphInputNode", "Reroute", "MultiLayerEXR", "Deferred", "MovieGraphSettingNode" }
 local PIN_LABELS = { "Globals", "", "Beauty", "NoSuchBranch", "None" }
+local NODE_PROPERTIES = { "OutputDirectory", "OutputResolution", "ZeroPadFrameNumbers", "bOverride_ZeroPadFrameNumbers",
+	"OutputFrameRate", "VersioningSettings", "CustomPlaybackRangeStart", "AdaptResolution", "LayerName", "FileNameFormat",
+	"ScriptTags", "Nope" }
 
 local function node_id(fz)
 	local ids = {}
@@ -144,6 +147,11 @@ local function graph_edit_step(fz)
 		{ 1, function() return graph_method_step(fz, "set_node_disabled", node_id(fz), literal(math.random(2) == 1)) end },
 		{ 1, function() return graph_method_step(fz, "add_output", quoted(pick({ "Beauty", "Globals", "" }))) end },
 		{ 1, function() return graph_method_step(fz, "delete_member", quoted(pick({ "Beauty", "Globals", "Variable", "Plates" }))) end },
+		{ 3, function() return graph_method_step(fz, "set_node_property", node_id(fz), quoted(pick(NODE_PROPERTIES)), values.any(fz)) end },
+		{ 1, function() return graph_method_step(fz, "get_node_property", node_id(fz), quoted(pick(NODE_PROPERTIES))) end },
+		{ 2, function() return graph_method_step(fz, "set_variable", quoted(pick({ "Var", "Beauty", "Variable", "shot_name" })), values.any(fz)) end },
+		{ 1, function() return graph_method_step(fz, "remove_node", node_id(fz)) end },
+		{ 1, function() return graph_method_step(fz, pick({ "insert_before", "insert_after" }), node_id(fz), quoted(pick(NODE_CLASSES)), quoted(pick(PIN_LABELS))) end },
 	})
 end
 

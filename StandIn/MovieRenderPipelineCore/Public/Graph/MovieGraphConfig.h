@@ -391,6 +391,17 @@ public:
 		return NewNode;
 	}
 
+#if !UE_VERSION_OLDER_THAN(5, 8, 0)
+	// A new node of the class feeding the target's input pin, fed by what fed that pin; null (warning) when the target,
+	// the class or the pin is missing.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API UMovieGraphNode* InsertBefore(UMovieGraphNode* InTargetNode, const TSubclassOf<UMovieGraphNode> InNodeClass, const FName& InTargetPinLabel = FName());
+
+	// A new node of the class between the target's output pin and the first pin it fed, which keeps its label.
+	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
+	UE_API UMovieGraphNode* InsertAfter(UMovieGraphNode* InTargetNode, const TSubclassOf<UMovieGraphNode> InNodeClass, const FName& InTargetPinLabel = FName());
+#endif
+
 	// A new user variable named after the base name ("Variable" when none), a Float holding 0.
 	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
 	UE_API UMovieGraphVariable* AddVariable(const FName InCustomBaseName = NAME_None);
