@@ -50,6 +50,15 @@ editor.undo()
 check.eq(read("bOverride_ZeroPadFrameNumbers"), "False", "undo still reaches the first write")
 editor.redo()
 
+-- Refused and unchanged writes leave a saved graph clean; a real change dirties it.
+check.eq(graph:save(), true, "saved")
+graph:set_node_property(settings.id, "ZeroPadFrameNumbers", nil)
+graph:set_node_property(settings.id, "ZeroPadFrameNumbers", 4)
+graph:set_variable("Nope", 1)
+check.eq(editor.is_package_dirty("/Game/Graphs/Props"), false, "still clean")
+graph:set_node_property(settings.id, "FrameNumberOffset", 10)
+check.eq(editor.is_package_dirty("/Game/Graphs/Props"), true, "dirty after a change")
+
 -- Variables: the coercion rules per value type.
 editor.add_typed_variable("/Game/Graphs/Props", "Count", "Int32")
 editor.add_typed_variable("/Game/Graphs/Props", "Scale", "Float")

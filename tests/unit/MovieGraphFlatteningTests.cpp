@@ -350,6 +350,15 @@ TEST_F(MovieGraphFlatteningTest, SelectNodesFollowTheOptionTheirSelectionNames)
 	Quality->SetValueString(TEXT("Other"));
 	ASSERT_NE(Flatten(), nullptr);
 	EXPECT_EQ(Flattened(Globals), nullptr);
+
+	// An unmatched selection follows Default; without a selector the node's own selection is used.
+	Graph->AddLabeledEdge(AddSetting(4), NAME_None, Select, TEXT("Default"));
+	ASSERT_NE(Flatten(), nullptr);
+	EXPECT_EQ(Flattened(Globals)->Quality, 4);
+	Graph->RemoveInboundEdges(Select, TEXT("Selected Option"));
+	Select->SelectedOption = TEXT("Final");
+	ASSERT_NE(Flatten(), nullptr);
+	EXPECT_EQ(Flattened(Globals)->Quality, 9);
 }
 
 #if !UE_VERSION_OLDER_THAN(5, 6, 0)

@@ -126,7 +126,9 @@ TEST_F(MovieGraphNodeClassTest, StructuralNodesGetTheirPins)
 	ASSERT_NE(Select, nullptr);
 	Select->SelectOptions = { TEXT("Draft"), TEXT("Final") };
 	Select->UpdatePins();
-	ASSERT_EQ(Select->GetInputPins().Num(), 3);
+	ASSERT_EQ(Select->GetInputPins().Num(), 4);
+	EXPECT_FALSE(Select->GetInputPin(TEXT("Draft"))->Properties.bIsBuiltIn);
+	EXPECT_TRUE(Select->GetInputPin(TEXT("Default"), EMovieGraphPinQueryRequirement::BuiltIn)->Properties.bIsBranch);
 	EXPECT_TRUE(Select->GetInputPin(TEXT("Draft"))->Properties.bIsBranch);
 	EXPECT_TRUE(Select->GetInputPin(TEXT("Final"))->Properties.bIsBranch);
 	EXPECT_EQ(Select->GetInputPin(TEXT("Selected Option"))->Properties.Type, EMovieGraphValueType::String);

@@ -2,6 +2,7 @@
 
 #include "Editor.h"
 #include "EditorAssetOperations.h"
+#include "UObject/Package.h"
 #include "HostTestHooks.h"
 #include "LevelSequence.h"
 #include "LevelSequenceAssets.h"
@@ -225,6 +226,15 @@ namespace UE::Vlmr
 			return 1;
 		}
 
+		// editor.is_package_dirty(path): whether the package is loaded and has unsaved changes.
+		int LuaIsPackageDirty(lua_State* L)
+		{
+			const char* PackagePath = luaL_checkstring(L, 1);
+			const UPackage* Package = FindPackage(nullptr, *ToFString(PackagePath));
+			lua_pushboolean(L, Package && Package->IsDirty());
+			return 1;
+		}
+
 		int LuaSetPackageEditable(lua_State* L)
 		{
 			const char* Prefix = luaL_checkstring(L, 1);
@@ -253,6 +263,7 @@ namespace UE::Vlmr
 			{ "create_level_sequence", &LuaCreateLevelSequence },
 			{ "delete_asset", &LuaDeleteAsset },
 			{ "unload_package", &LuaUnloadPackage },
+			{ "is_package_dirty", &LuaIsPackageDirty },
 			{ "set_package_editable", &LuaSetPackageEditable },
 			{ "engine_version", &LuaEngineVersion },
 			{ "create_config", &LuaCreateConfig },

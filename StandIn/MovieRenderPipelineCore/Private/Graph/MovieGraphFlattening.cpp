@@ -356,21 +356,28 @@ private:
 		return Followed ? TArray<const UMovieGraphPin*>{ Followed } : TArray<const UMovieGraphPin*>();
 	}
 
-	// Stand-in choice: the stand-in's Select node has no Default pin and no selection of its own, so an unresolved or
-	// unmatched selection follows no option.
+	// The connected option pins named by the selection (from the "Selected Option" pin, else the node's own), else Default.
 	TArray<const UMovieGraphPin*> GetSelectNodePinsToFollow(const UMovieGraphSelectNode* InNode) const
 	{
 		FString SelectedOption;
-		TArray<const UMovieGraphPin*> OptionPins;
 		if (!ResolveDataPin(InNode->GetInputPin(UE::MovieGraph::Private::SelectedOptionPinName), SubgraphFrames.Num(), SelectedOption))
 		{
-			return OptionPins;
+			SelectedOption = InNode->SelectedOption;
 		}
+		TArray<const UMovieGraphPin*> OptionPins;
 		for (const UMovieGraphPin* Pin : InNode->GetInputPins())
 		{
-			if (Pin && Pin->Properties.bIsBranch && Pin->IsConnected() && Pin->Properties.Label.ToString() == SelectedOption)
+			const bool bIsOption = Pin && Pin->Properties.bIsBranch && !Pin->Properties.bIsBuiltIn;
+			if (bIsOption && Pin->IsConnected() && Pin->Properties.Label.ToString() == SelectedOption)
 			{
 				OptionPins.Add(Pin);
+			}
+		}
+		if (OptionPins.IsEmpty())
+		{
+			if (const UMovieGraphPin* DefaultPin = InNode->GetInputPin(FName(TEXT("Default")), EMovieGraphPinQueryRequirement::BuiltIn))
+			{
+				OptionPins.Add(DefaultPin);
 			}
 		}
 		return OptionPins;

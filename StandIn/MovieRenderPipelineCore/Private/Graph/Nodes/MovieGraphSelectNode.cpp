@@ -9,8 +9,10 @@ TArray<FMovieGraphPinProperties> UMovieGraphSelectNode::GetInputPinProperties() 
 	TArray<FMovieGraphPinProperties> PinProperties;
 	for (const FString& Option : SelectOptions)
 	{
-		PinProperties.Add(FMovieGraphPinProperties::MakeBranchProperties(FName(*Option)));
+		FMovieGraphPinProperties& OptionPin = PinProperties.Add_GetRef(FMovieGraphPinProperties::MakeBranchProperties(FName(*Option)));
+		OptionPin.bIsBuiltIn = false;
 	}
+	PinProperties.Add(FMovieGraphPinProperties::MakeBranchProperties(TEXT("Default")));
 	PinProperties.Add(FMovieGraphPinProperties(TEXT("Selected Option"), EMovieGraphValueType::String, nullptr, false));
 	return PinProperties;
 }
@@ -23,4 +25,5 @@ TArray<FMovieGraphPinProperties> UMovieGraphSelectNode::GetOutputPinProperties()
 STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphSelectNode, CLASS_None, "MovieRenderPipelineCore")
 {
 	STANDIN_PROPERTY(SelectOptions, CPF_Edit | CPF_BlueprintVisible);
+	STANDIN_PROPERTY(SelectedOption, CPF_Edit | CPF_BlueprintVisible);
 }

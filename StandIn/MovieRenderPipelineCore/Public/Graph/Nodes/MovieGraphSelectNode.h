@@ -14,7 +14,8 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphSelectNod
 public:
 	UE_API UMovieGraphSelectNode();
 
-	// Stand-in choice: one branch input per option, named after it, then a string "Selected Option" data input.
+	// One dynamic branch input per option, named after it, the built-in "Default" branch input, then a string
+	// "Selected Option" data input.
 	UE_API virtual TArray<FMovieGraphPinProperties> GetInputPinProperties() const override;
 
 	// One unlabelled branch output.
@@ -23,6 +24,10 @@ public:
 	// Stand-in choice: the options are kept as their names.
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Select")
 	TArray<FString> SelectOptions;
+
+	// The option followed when the "Selected Option" pin brings no value.
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Select")
+	FString SelectedOption;
 };
 
 #undef UE_API
