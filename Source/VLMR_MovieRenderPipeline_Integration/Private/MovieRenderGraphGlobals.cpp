@@ -98,15 +98,9 @@ namespace VLMR
 
 	sol::table GetNamedResolution(sol::state_view Lua, FLuaSessionData& Session, const sol::object& ProfileOrSize)
 	{
-		lua_State* L = Lua.lua_state();
-		const int32 Top = lua_gettop(L);
-		ProfileOrSize.push(L);
-		const bool bText = lua_type(L, -1) == LUA_TSTRING && !FindTextArgumentProblem(L, -1);
-		size_t Length = 0;
-		const char* Data = bText ? lua_tolstring(L, -1, &Length) : nullptr;
-		const FString Profile = bText ? ToFString(Data, static_cast<int32>(Length)) : FString();
-		lua_settop(L, Top);
-		if (bText)
+		FString Profile;
+		FString Problem;
+		if (ProfileOrSize.get_type() == sol::type::string && ReadTextValue(ProfileOrSize, Profile, Problem))
 		{
 			return GetNamedResolutionByProfile(Lua, Session, Profile);
 		}

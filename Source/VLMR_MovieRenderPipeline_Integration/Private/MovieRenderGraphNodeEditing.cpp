@@ -90,19 +90,8 @@ namespace VLMR
 		}
 		if (Value.get_type() == sol::type::string)
 		{
-			lua_State* L = Value.lua_state();
-			Value.push(L);
-			const char* Problem = FindTextArgumentProblem(L, -1);
-			size_t Length = 0;
-			const char* Data = lua_tolstring(L, -1, &Length);
-			const FString Text = Problem ? FString() : ToFString(Data, static_cast<int32>(Length));
-			lua_pop(L, 1);
-			if (Problem)
-			{
-				OutError = UTF8_TO_TCHAR(Problem);
-				return false;
-			}
-			return Staged.ImportText(Text, &Node, OutError);
+			FString Text;
+			return ReadTextValue(Value, Text, OutError) && Staged.ImportText(Text, &Node, OutError);
 		}
 		return Staged.Apply(Value, OutError);
 	}
@@ -352,19 +341,8 @@ namespace VLMR
 			return CoerceNumber(Value, Type, TypeName, OutText, OutError);
 		case sol::type::string:
 		{
-			lua_State* L = Value.lua_state();
-			Value.push(L);
-			const char* Problem = FindTextArgumentProblem(L, -1);
-			size_t Length = 0;
-			const char* Data = lua_tolstring(L, -1, &Length);
-			const FString Text = Problem ? FString() : ToFString(Data, static_cast<int32>(Length));
-			lua_pop(L, 1);
-			if (Problem)
-			{
-				OutError = UTF8_TO_TCHAR(Problem);
-				return false;
-			}
-			return CoerceString(Text, Type, TypeName, OutText, OutError);
+			FString Text;
+			return ReadTextValue(Value, Text, OutError) && CoerceString(Text, Type, TypeName, OutText, OutError);
 		}
 		default:
 			OutError = FString::Printf(TEXT("unsupported Lua value type for a %s variable (use string, number or boolean)"), *TypeName);
