@@ -28,25 +28,21 @@ namespace VLMR
 
 	bool ParseEvaluationOptions(const FScriptOptions& Options, FEvaluationOptions& OutOptions, FString& OutError)
 	{
+		// Every field is read before the queue is looked at: a read may run script code.
 		OutOptions.JobIndex = Options.GetInteger("job");
-		if (OutOptions.JobIndex.IsSet())
-		{
-			TStrongObjectPtr<UMoviePipelineExecutorJob> Unused;
-			if (!FindQueueJobByIndex(OutOptions.JobIndex.GetValue(), Unused, OutError))
-			{
-				return false;
-			}
-		}
-		const int64 ShotIndex = Options.GetInteger("shot_index").Get(0);
-		OutOptions.ShotIndex = static_cast<int32>(FMath::Clamp<int64>(ShotIndex, 0, MAX_int32));
+		OutOptions.ShotIndex = static_cast<int32>(FMath::Clamp<int64>(Options.GetInteger("shot_index").Get(0), 0, MAX_int32));
 		OutOptions.Overscan = static_cast<float>(Options.GetNumber("overscan").Get(0.0));
+		OutOptions.AspectRatio = static_cast<float>(Options.GetNumber("aspect_ratio").Get(0.0));
+		if (OutOptions.JobIndex.IsSet() && !FindQueueJobByIndex(OutOptions.JobIndex.GetValue(), OutOptions.Job, OutError))
+		{
+			return false;
+		}
 		// Written so that NaN fails too.
 		if (!(OutOptions.Overscan >= 0.f && OutOptions.Overscan <= 1.f))
 		{
 			OutError = TEXT("overscan must be between 0 and 1");
 			return false;
 		}
-		OutOptions.AspectRatio = static_cast<float>(Options.GetNumber("aspect_ratio").Get(0.0));
 		if (!(OutOptions.AspectRatio >= 0.f))
 		{
 			OutError = TEXT("aspect_ratio must be >= 0");
@@ -68,7 +64,7 @@ namespace VLMR
 		const bool bInRange = Index >= 1 && Index <= Jobs.Num() && Jobs[Index - 1];
 		if (!bInRange)
 		{
-			OutError = FString::Printf(TEXT("job index %lld out of range (1-%d)"), static_cast<long long>(Index), Jobs.Num());
+			OutError = DescribeJobIndexOutOfRange(TEXT("job "), Index, Jobs.Num());
 			return false;
 		}
 		OutJob.Reset(Jobs[Index - 1]);
@@ -451,9 +447,7 @@ namespace VLMR
 		{
 			return Fail(Lua, Session, Label, Error);
 		}
-		TStrongObjectPtr<UMoviePipelineExecutorJob> QueueJob;
-		const bool bJobFound = !OutOptions.JobIndex.IsSet() || FindQueueJobByIndex(OutOptions.JobIndex.GetValue(), QueueJob, Error);
-		if (!bJobFound || !FlattenGraph(*Graph, QueueJob.Get(), OutOptions.ShotIndex, OutContext, Error))
+		if (!FlattenGraph(*Graph, OutOptions.Job.Get(), OutOptions.ShotIndex, OutContext, Error))
 		{
 			return Fail(Lua, Session, Label, Error);
 		}

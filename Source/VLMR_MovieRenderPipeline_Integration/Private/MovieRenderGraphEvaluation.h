@@ -18,16 +18,18 @@ namespace VLMR
 {
 	class FScriptOptions;
 
-	// The options of the evaluating graph methods, read from the script's table before any engine call.
+	// The options of the evaluating graph methods, read from the script's table before any engine call; the queue job
+	// they name is held once found.
 	struct FEvaluationOptions
 	{
 		TOptional<int64> JobIndex;
+		TStrongObjectPtr<UMoviePipelineExecutorJob> Job;
 		int32 ShotIndex = 0;
 		float Overscan = 0.f;
 		float AspectRatio = 0.f;
 	};
 
-	// Checks job, shot_index, overscan and aspect_ratio in this order; false with the first failure's message.
+	// Reads every option, then checks job, overscan and aspect_ratio in this order; false with the first failure's message.
 	bool ParseEvaluationOptions(const FScriptOptions& Options, FEvaluationOptions& OutOptions, FString& OutError);
 
 	// The queue job at a 1-based index of the editor's queue, held; false with the lookup's message.

@@ -487,7 +487,7 @@ namespace VLMR
 		}
 		if (!FitsEngineName(PinText))
 		{
-			return Fail(Lua, Session, Label, FString::Printf(TEXT("text too long for an engine name (%d characters, at most 1023)"), PinText.Len()));
+			return Fail(Lua, Session, Label, DescribeEngineNameTooLong(PinText));
 		}
 		const FName PinLabel = ResolvePinLabel(Target.Get(), PinText, bBefore ? EPinSide::Input : EPinSide::Output).Label;
 		const FHeldNode Inserted(bBefore ? Graph->InsertBefore(Target.Get(), NodeClass.Get(), PinLabel) : Graph->InsertAfter(Target.Get(), NodeClass.Get(), PinLabel));

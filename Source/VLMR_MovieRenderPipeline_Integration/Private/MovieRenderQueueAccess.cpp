@@ -90,7 +90,12 @@ namespace VLMR
 
 	void ReportJobIndexOutOfRange(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, int64 Index, int32 Count)
 	{
-		LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("%sindex %lld out of range (1-%d)"), What, static_cast<long long>(Index), Count));
+		LogLine(Session, ELineKind::Fail, Label, DescribeJobIndexOutOfRange(What, Index, Count));
+	}
+
+	FString DescribeJobIndexOutOfRange(const TCHAR* What, int64 Index, int32 Count)
+	{
+		return FString::Printf(TEXT("%sindex %lld out of range (1-%d)"), What, static_cast<long long>(Index), Count);
 	}
 
 	bool CheckJobIndex(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, int64 Index, int32 Count)

@@ -57,6 +57,9 @@ namespace VLMR
 	// Logs "[FAIL] <label> -> <what>index <n> out of range (1-<count>)" with the index as the script passed it.
 	void ReportJobIndexOutOfRange(FLuaSessionData& Session, const TCHAR* Label, const TCHAR* What, int64 Index, int32 Count);
 
+	// "<what>index <index> out of range (1-<count>)".
+	FString DescribeJobIndexOutOfRange(const TCHAR* What, int64 Index, int32 Count);
+
 	// One row per non-null job of the queue, made by the reader from the job and its 1-based position while every job
 	// is held, so that a reader may load (and a load collect) safely.
 	template<class TReader>

@@ -36,17 +36,23 @@ namespace VLMR
 		return nullptr;
 	}
 
+	bool ReadTextAt(lua_State* L, int32 Index, FString& OutText, FString& OutProblem)
+	{
+		const char* Problem = FindTextArgumentProblem(L, Index);
+		size_t Length = 0;
+		const char* Data = lua_tolstring(L, Index, &Length);
+		OutText = Problem ? FString() : ToFString(Data, static_cast<int32>(Length));
+		OutProblem = Problem ? FString(UTF8_TO_TCHAR(Problem)) : FString();
+		return Problem == nullptr;
+	}
+
 	bool ReadTextValue(const sol::object& Value, FString& OutText, FString& OutProblem)
 	{
 		lua_State* L = Value.lua_state();
 		Value.push(L);
-		const char* Problem = FindTextArgumentProblem(L, -1);
-		size_t Length = 0;
-		const char* Data = lua_tolstring(L, -1, &Length);
-		OutText = Problem ? FString() : ToFString(Data, static_cast<int32>(Length));
-		OutProblem = Problem ? FString(UTF8_TO_TCHAR(Problem)) : FString();
+		const bool bRead = ReadTextAt(L, -1, OutText, OutProblem);
 		lua_pop(L, 1);
-		return Problem == nullptr;
+		return bRead;
 	}
 
 	FScriptText sol_lua_get(sol::types<FScriptText>, lua_State* L, int Index, sol::stack::record& Tracking)

@@ -43,7 +43,10 @@ namespace VLMR
 	// Why a Lua string cannot become engine text, or null when it can.
 	const char* FindTextArgumentProblem(lua_State* L, int32 Index);
 
-	// A Lua string value as engine text; false with the reason when it holds what engine text cannot.
+	// The Lua string at Index as engine text; false with the reason when it holds what engine text cannot.
+	bool ReadTextAt(lua_State* L, int32 Index, FString& OutText, FString& OutProblem);
+
+	// As ReadTextAt, for a string value held by the script.
 	bool ReadTextValue(const sol::object& Value, FString& OutText, FString& OutProblem);
 
 	// sol2 drops the function's name from an argument error that gives no reason, so every refusal gives one.

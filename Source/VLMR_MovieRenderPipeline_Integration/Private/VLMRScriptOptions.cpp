@@ -17,13 +17,10 @@ namespace VLMR
 
 		TOptional<FString> ReadPlainString(lua_State* L, int32 Index)
 		{
-			if (lua_type(L, Index) != LUA_TSTRING || FindTextArgumentProblem(L, Index))
-			{
-				return {};
-			}
-			size_t Length = 0;
-			const char* Data = lua_tolstring(L, Index, &Length);
-			return ToFString(Data, static_cast<int32>(Length));
+			FString Text;
+			FString Problem;
+			const bool bPlain = lua_type(L, Index) == LUA_TSTRING && ReadTextAt(L, Index, Text, Problem);
+			return bPlain ? TOptional<FString>(Text) : TOptional<FString>();
 		}
 	}
 

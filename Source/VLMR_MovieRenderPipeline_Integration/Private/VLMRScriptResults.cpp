@@ -104,9 +104,13 @@ namespace VLMR
 		{
 			return true;
 		}
-		LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("text too long for an engine name (%d characters, at most %d)"),
-			Text.Len(), NAME_SIZE - 1));
+		LogLine(Session, ELineKind::Fail, Label, DescribeEngineNameTooLong(Text));
 		return false;
+	}
+
+	FString DescribeEngineNameTooLong(const FString& Text)
+	{
+		return FString::Printf(TEXT("text too long for an engine name (%d characters, at most %d)"), Text.Len(), NAME_SIZE - 1);
 	}
 
 	sol::object Nil(sol::state_view Lua)

@@ -54,6 +54,9 @@ namespace VLMR
 	// Whether the text fits in an engine name (at most NAME_SIZE - 1 characters).
 	bool FitsEngineName(const FString& Text);
 
+	// "text too long for an engine name (<length> characters, at most 1023)".
+	FString DescribeEngineNameTooLong(const FString& Text);
+
 	// True when the text fits in an engine name; else "[FAIL] <label> -> text too long for an engine name (...)".
 	bool CheckEngineNameLength(FLuaSessionData& Session, const FString& Label, const FString& Text);
 

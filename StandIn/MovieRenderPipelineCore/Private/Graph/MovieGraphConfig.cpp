@@ -46,6 +46,23 @@ namespace UE::MovieGraph::Private
 		return Member;
 	}
 
+	// Takes an input or output out of the graph: the edges of its pin first, then the pin with the member.
+	template<class TMember>
+	bool RemoveInterfaceMember(TArray<TObjectPtr<TMember>>& InOutMembers, TMember* InMember, UMovieGraphPin* InMemberPin, UMovieGraphNode* InInterfaceNode)
+	{
+		if (!InOutMembers.Contains(InMember))
+		{
+			return false;
+		}
+		if (InMemberPin)
+		{
+			InMemberPin->BreakAllEdges();
+		}
+		InOutMembers.Remove(InMember);
+		InInterfaceNode->UpdatePins();
+		return true;
+	}
+
 	template<class TMember>
 	bool HasMemberNamed(const TArray<TObjectPtr<TMember>>& InMembers, const FString& InName)
 	{
@@ -460,23 +477,14 @@ bool UMovieGraphConfig::DeleteMember(UMovieGraphMember* MemberToDelete)
 		RemoveVariableNodesOf(Variable);
 		return true;
 	}
+	using UE::MovieGraph::Private::RemoveInterfaceMember;
 	if (UMovieGraphInput* Input = Cast<UMovieGraphInput>(MemberToDelete))
 	{
-		if (!Inputs.Contains(Input))
-		{
-			return false;
-		}
-		RemoveInput(Input);
-		return true;
+		return RemoveInterfaceMember(Inputs, Input, InputNode->GetOutputPin(FName(*Input->GetMemberName())), InputNode);
 	}
 	if (UMovieGraphOutput* Output = Cast<UMovieGraphOutput>(MemberToDelete))
 	{
-		if (!Outputs.Contains(Output))
-		{
-			return false;
-		}
-		RemoveOutput(Output);
-		return true;
+		return RemoveInterfaceMember(Outputs, Output, OutputNode->GetInputPin(FName(*Output->GetMemberName())), OutputNode);
 	}
 	return false;
 }
@@ -493,26 +501,6 @@ void UMovieGraphConfig::RemoveVariableNodesOf(const UMovieGraphVariable* InVaria
 		}
 	}
 	RemoveNodes(NodesToRemove);
-}
-
-void UMovieGraphConfig::RemoveInput(UMovieGraphInput* InInput)
-{
-	if (UMovieGraphPin* Pin = InputNode->GetOutputPin(FName(*InInput->GetMemberName())))
-	{
-		Pin->BreakAllEdges();
-	}
-	Inputs.Remove(InInput);
-	InputNode->UpdatePins();
-}
-
-void UMovieGraphConfig::RemoveOutput(UMovieGraphOutput* InOutput)
-{
-	if (UMovieGraphPin* Pin = OutputNode->GetInputPin(FName(*InOutput->GetMemberName())))
-	{
-		Pin->BreakAllEdges();
-	}
-	Outputs.Remove(InOutput);
-	OutputNode->UpdatePins();
 }
 
 void UMovieGraphConfig::GroupVariablesByCategory()

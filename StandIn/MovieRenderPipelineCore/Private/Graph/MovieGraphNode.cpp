@@ -121,21 +121,18 @@ void UMovieGraphNode::UpdatePins()
 	UpdatePinSide(OutputPins, GetOutputPinProperties());
 }
 
-bool UMovieGraphNode::UpdatePinSide(TArray<TObjectPtr<UMovieGraphPin>>& InOutPins, const TArray<FMovieGraphPinProperties>& InWanted)
+void UMovieGraphNode::UpdatePinSide(TArray<TObjectPtr<UMovieGraphPin>>& InOutPins, const TArray<FMovieGraphPinProperties>& InWanted)
 {
 	TArray<bool> Taken;
 	Taken.SetNumZeroed(InOutPins.Num());
 	TArray<TObjectPtr<UMovieGraphPin>> NewPins;
-	bool bChanged = InOutPins.Num() != InWanted.Num();
-	for (int32 WantedIndex = 0; WantedIndex < InWanted.Num(); ++WantedIndex)
+	for (const FMovieGraphPinProperties& Wanted : InWanted)
 	{
-		const FMovieGraphPinProperties& Wanted = InWanted[WantedIndex];
 		const int32 Reused = UE::MovieGraph::Private::FindReusablePin(InOutPins, Taken, Wanted.Label);
 		if (Reused != INDEX_NONE)
 		{
 			Taken[Reused] = true;
 			UMovieGraphPin* Pin = InOutPins[Reused];
-			bChanged |= Reused != WantedIndex || Pin->Properties != Wanted;
 			Pin->Properties = Wanted;
 			NewPins.Add(Pin);
 			continue;
@@ -144,10 +141,8 @@ bool UMovieGraphNode::UpdatePinSide(TArray<TObjectPtr<UMovieGraphPin>>& InOutPin
 		NewPin->Node = this;
 		NewPin->Properties = Wanted;
 		NewPins.Add(NewPin);
-		bChanged = true;
 	}
 	InOutPins = MoveTemp(NewPins);
-	return bChanged;
 }
 
 void UMovieGraphNode::UpdateDynamicProperties()

@@ -494,8 +494,6 @@ private:
 	void AddDefaultMembers();
 	void AddGlobalVariableIfMissing(UClass* InGlobalClass);
 	void RemoveVariableNodesOf(const UMovieGraphVariable* InVariable);
-	void RemoveInput(UMovieGraphInput* InInput);
-	void RemoveOutput(UMovieGraphOutput* InOutput);
 
 	// Reorders the user variables so that those of one category follow each other, in order of first appearance.
 	void GroupVariablesByCategory();

@@ -124,8 +124,8 @@ protected:
 #endif
 
 private:
-	// Brings one side's pins in line with the wanted properties; true when anything changed.
-	bool UpdatePinSide(TArray<TObjectPtr<UMovieGraphPin>>& InOutPins, const TArray<FMovieGraphPinProperties>& InWanted);
+	// Brings one side's pins in line with the wanted properties.
+	void UpdatePinSide(TArray<TObjectPtr<UMovieGraphPin>>& InOutPins, const TArray<FMovieGraphPinProperties>& InWanted);
 };
 
 UCLASS(MinimalAPI, Abstract, BlueprintType)
