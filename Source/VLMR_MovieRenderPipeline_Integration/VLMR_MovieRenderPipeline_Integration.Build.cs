@@ -11,6 +11,7 @@ public class VLMR_MovieRenderPipeline_Integration : ModuleRules
 			"Core",
 			"CoreUObject",
 			"Engine",
+			"CinematicCamera",
 			"UnrealEd",
 			"AssetRegistry",
 			"LevelSequence",
