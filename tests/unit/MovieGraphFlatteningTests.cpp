@@ -1,4 +1,5 @@
 #include "PersistenceTestSupport.h"
+#include "MovieRenderTestSupport.h"
 
 #include "Graph/MovieGraphConfig.h"
 #include "Graph/MovieGraphEdge.h"
@@ -107,19 +108,10 @@ namespace
 			return Node;
 		}
 
-		// Connects the nodes into one chain ending at the Output node's pin, the first node nearest the Output.
 		static void Chain(UMovieGraphConfig* InGraph, const FName& InBranch, const TArray<UMovieGraphNode*>& InNearestFirst)
 		{
-			UMovieGraphNode* Downstream = InGraph->GetOutputNode();
-			FName DownstreamPin = InBranch;
-			for (UMovieGraphNode* Node : InNearestFirst)
-			{
-				InGraph->AddLabeledEdge(Node, NAME_None, Downstream, DownstreamPin);
-				Downstream = Node;
-				DownstreamPin = NAME_None;
-			}
+			UE::MovieRenderTest::ChainNodes(InGraph, InBranch, InNearestFirst);
 		}
-
 		UMovieGraphEvaluatedConfig* Flatten(FString& OutError)
 		{
 			FMovieGraphTraversalContext Context;

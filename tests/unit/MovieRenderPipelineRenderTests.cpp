@@ -1,4 +1,5 @@
 #include "PersistenceTestSupport.h"
+#include "MovieRenderTestSupport.h"
 
 #include "Editor.h"
 #include "Editor/StandInEditorStartup.h"
@@ -27,8 +28,6 @@
 
 namespace
 {
-	constexpr int32 TicksPerFrame = 1000;
-
 	// An editor with the queue subsystem, a project folder to render into and a 24 fps sequence of two shots of two
 	// frames each: sh010 (camera CamA) and sh020 (camera CamB).
 	class MovieRenderPipelineRenderTest : public testing::Test
@@ -38,30 +37,13 @@ namespace
 		{
 			UE::UnrealEd::StandIn::StartEditor(TEXT("/Game/RenderTests/Map"));
 			Subsystem = GEditor->GetEditorSubsystem<UMoviePipelineQueueSubsystem>();
-			UPackage* Package = CreatePackage(TEXT("/Game/RenderTests/Edit"));
-			Sequence = NewObject<ULevelSequence>(Package, TEXT("Edit"), RF_Public | RF_Standalone);
-			Sequence->Initialize();
-			UMovieScene* MovieScene = Sequence->GetMovieScene();
-			MovieScene->SetTickResolutionDirectly(FFrameRate(24 * TicksPerFrame, 1));
-			MovieScene->SetDisplayRate(FFrameRate(24, 1));
-			MovieScene->SetPlaybackRange(TRange<FFrameNumber>(FFrameNumber(0), FFrameNumber(4 * TicksPerFrame)));
-			AddShot(TEXT("sh010"), TEXT("CamA"), 0, 2);
-			AddShot(TEXT("sh020"), TEXT("CamB"), 2, 4);
+			Sequence = UE::MovieRenderTest::CreateTwoShotSequence(TEXT("/Game/RenderTests/Edit"), TEXT("Edit"));
 		}
 
 		void TearDown() override
 		{
 			Sequence->ClearFlags(RF_Standalone);
 			UE::UnrealEd::StandIn::StopEditor();
-		}
-
-		void AddShot(const TCHAR* InName, const TCHAR* InCamera, int32 InStartFrame, int32 InEndFrame)
-		{
-			FMovieSceneStandInShot Shot;
-			Shot.ShotDisplayName = InName;
-			Shot.CameraName = InCamera;
-			Shot.SectionRange.Value = TRange<FFrameNumber>(FFrameNumber(InStartFrame * TicksPerFrame), FFrameNumber(InEndFrame * TicksPerFrame));
-			Sequence->GetMovieScene()->AddStandInShot(Shot);
 		}
 
 		// A job of the sequence writing PNG files named "<job>.<shot>.<frame>" into <project>/Render.

@@ -11,6 +11,7 @@
 #include "MoviePipelineOutputSetting.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
+#include "MoviePipelineStandInShotRanges.h"
 #include "MoviePipelineStandInFileNaming.h"
 #include "MovieRenderPipelineCoreModule.h"
 #include "Templates/Casts.h"
@@ -31,13 +32,6 @@ namespace UE::MoviePipeline::Private
 		Single.Add(TEXT("Value"), InArgument);
 		return FString::Format(TEXT("{Value}"), Single);
 	}
-
-	// The frame at the output rate that holds InTickTime, or the one after when bRoundUp and InTickTime falls inside it.
-	static int64 ToOutputFrame(FFrameNumber InTickTime, FFrameRate InTickResolution, FFrameRate InOutputRate, bool bRoundUp)
-	{
-		const FFrameTime OutputTime = FFrameRate::TransformTime(FFrameTime(InTickTime), InTickResolution, InOutputRate);
-		return int64(OutputTime.GetFrame().Value) + (bRoundUp && OutputTime.GetSubFrame() > 0.f ? 1 : 0);
-	}
 }
 
 UMoviePipeline::UMoviePipeline()
@@ -46,7 +40,6 @@ UMoviePipeline::UMoviePipeline()
 	, OutputFrameCount(0)
 	, TotalOutputFrames(0)
 	, InitializationVersion(1)
-	, bFatalError(false)
 	, bRefusedOverlongPath(false)
 {
 }
@@ -94,48 +87,16 @@ void UMoviePipeline::Initialize(UMoviePipelineExecutorJob* InJob)
 	UE_LOG(LogMovieRenderPipeline, Log, TEXT("Initialized the render of job '%s': %d shots, %d output frames at %s fps."), *CurrentJob->JobName, ActiveShots.Num(), TotalOutputFrames, *FString::SanitizeFloat(EffectiveFrameRate.AsDecimal()));
 }
 
-// Stand-in choice: the custom playback range, handle frames and the output frame step of the output setting are not applied.
 bool UMoviePipeline::GatherActiveShots()
 {
-	using namespace UE::MoviePipeline::Private;
-	const FSoftObjectPath SequencePath = CurrentJob->Sequence;
-	ULevelSequence* Sequence = Cast<ULevelSequence>(SequencePath.TryLoad());
-	UMovieScene* MovieScene = Sequence ? Sequence->GetMovieScene() : nullptr;
-	if (!MovieScene)
-	{
-		UE_LOG(LogMovieRenderPipeline, Error, TEXT("Failed to load Sequence Asset from specified path, aborting movie render! Attempted to load Path: %s"), *SequencePath.ToString());
-		return false;
-	}
-	// Loading may have collected garbage, and with it a job that left its queue.
-	if (!CurrentJob.IsValid())
+	using namespace UE::MoviePipeline::StandIn;
+	ULevelSequence* Sequence = LoadSequenceAndUpdateShotList(CurrentJob);
+	if (!Sequence)
 	{
 		return false;
 	}
-	UMoviePipelineExecutorJob& Job = *CurrentJob.Get();
-	bool bShotsChanged = false;
-	UMoviePipelineBlueprintLibrary::UpdateJobShotListFromSequence(Sequence, &Job, bShotsChanged);
-	EffectiveFrameRate = Job.GetConfiguration()->GetEffectiveFrameRate(Sequence);
-	const FFrameRate TickResolution = MovieScene->GetTickResolution();
-
-	for (UMoviePipelineExecutorShot* Shot : Job.ShotInfo)
-	{
-		const TRange<FFrameNumber> Range = Shot ? Shot->ShotInfo.TotalOutputRangeRoot : TRange<FFrameNumber>::Empty();
-		if (!Shot || !Shot->ShouldRender() || Range.IsEmpty() || !Range.HasLowerBound() || !Range.HasUpperBound())
-		{
-			continue;
-		}
-		const int64 StartFrame = ToOutputFrame(Range.GetLowerBoundValue(), TickResolution, EffectiveFrameRate, false);
-		const int64 EndFrame = ToOutputFrame(Range.GetUpperBoundValue(), TickResolution, EffectiveFrameRate, true);
-		// Stand-in choice: a render counts its output frames in 32 bits, as the engine numbers them; frames past that are not rendered.
-		const int64 NumFrames = FMath::Min(EndFrame - StartFrame, int64(MAX_int32 - TotalOutputFrames));
-		if (NumFrames <= 0)
-		{
-			continue;
-		}
-		Shot->SetStatusProgress(0.0f);
-		ActiveShots.Add({ Shot, int32(StartFrame), int32(NumFrames) });
-		TotalOutputFrames += int32(NumFrames);
-	}
+	EffectiveFrameRate = CurrentJob->GetConfiguration()->GetEffectiveFrameRate(Sequence);
+	ActiveShots = GatherShotOutputRanges(*CurrentJob.Get(), *Sequence->GetMovieScene(), EffectiveFrameRate, TotalOutputFrames);
 	return true;
 }
 
@@ -162,7 +123,7 @@ int32 UMoviePipeline::ResolveVersionNumber() const
 const TArray<TObjectPtr<UMoviePipelineExecutorShot>>& UMoviePipeline::GetActiveShotList() const
 {
 	ActiveShotList.Reset();
-	for (const FActiveShot& ActiveShot : ActiveShots)
+	for (const UE::MoviePipeline::StandIn::FShotOutputRange& ActiveShot : ActiveShots)
 	{
 		if (UMoviePipelineExecutorShot* Shot = ActiveShot.Shot.Get())
 		{
@@ -186,8 +147,7 @@ UMoviePipelineOutputSetting* UMoviePipeline::GetOutputSetting() const
 
 bool UMoviePipeline::IsTickable() const
 {
-	const bool bRunning = PipelineState != EMovieRenderPipelineState::Uninitialized && PipelineState != EMovieRenderPipelineState::Finished;
-	return bRunning && !HasAnyFlags(RF_ClassDefaultObject);
+	return IsRunning();
 }
 
 void UMoviePipeline::Tick(float DeltaTime)
@@ -225,7 +185,7 @@ void UMoviePipeline::TickProducingFrames()
 	}
 	while (ActiveShots.IsValidIndex(CurrentShotIndex))
 	{
-		const FActiveShot ActiveShot = ActiveShots[CurrentShotIndex];
+		const UE::MoviePipeline::StandIn::FShotOutputRange ActiveShot = ActiveShots[CurrentShotIndex];
 		if (UMoviePipelineExecutorShot* Shot = ActiveShot.Shot.Get())
 		{
 			RenderFrame(*Shot, ActiveShot);
@@ -242,7 +202,7 @@ void UMoviePipeline::TickProducingFrames()
 	}
 }
 
-void UMoviePipeline::RenderFrame(UMoviePipelineExecutorShot& InShot, const FActiveShot& InActiveShot)
+void UMoviePipeline::RenderFrame(UMoviePipelineExecutorShot& InShot, const UE::MoviePipeline::StandIn::FShotOutputRange& InActiveShot)
 {
 	FMoviePipelineMergerOutputFrame Frame;
 	FMoviePipelineFrameOutputState& OutputState = Frame.FrameOutputState;
@@ -303,29 +263,6 @@ void UMoviePipeline::FinishRender()
 	TransitionToState(EMovieRenderPipelineState::Finalize);
 	TransitionToState(EMovieRenderPipelineState::Export);
 	TransitionToState(EMovieRenderPipelineState::Finished);
-}
-
-void UMoviePipeline::TransitionToState(EMovieRenderPipelineState InNewState)
-{
-	if (PipelineState == InNewState || PipelineState == EMovieRenderPipelineState::Finished)
-	{
-		return;
-	}
-	UE_LOG(LogMovieRenderPipeline, Log, TEXT("Transitioning from state %d to %d."), int32(PipelineState), int32(InNewState));
-	PipelineState = InNewState;
-	if (InNewState == EMovieRenderPipelineState::Finished)
-	{
-		BroadcastWorkFinished();
-	}
-}
-
-void UMoviePipeline::BroadcastWorkFinished()
-{
-	FMoviePipelineOutputData OutputData;
-	OutputData.Pipeline = this;
-	OutputData.Job = CurrentJob.Get();
-	OutputData.bSuccess = !bFatalError;
-	OnMoviePipelineWorkFinished().Broadcast(OutputData);
 }
 
 void UMoviePipeline::ShutdownImpl(bool bIsError)

@@ -1,5 +1,6 @@
 #include "MoviePipelineLinearExecutor.h"
 
+#include "Graph/MovieGraphBlueprintLibrary.h"
 #include "Graph/MovieGraphPipeline.h"
 #include "MoviePipeline.h"
 #include "MoviePipelineBlueprintLibrary.h"
@@ -126,6 +127,10 @@ float UMoviePipelineLinearExecutorBase::GetCompletionPercentageFromActivePipelin
 	if (const UMoviePipeline* LegacyPipeline = Cast<UMoviePipeline>(ActiveMoviePipeline.Get()))
 	{
 		return UMoviePipelineBlueprintLibrary::GetCompletionPercentage(LegacyPipeline);
+	}
+	if (const UMovieGraphPipeline* GraphPipeline = Cast<UMovieGraphPipeline>(ActiveMoviePipeline.Get()))
+	{
+		return UMovieGraphBlueprintLibrary::GetCompletionPercentage(GraphPipeline);
 	}
 	return 0.0f;
 }

@@ -6,7 +6,11 @@
 #include "UObject/UnrealType.h"
 
 STANDIN_IMPLEMENT_ENUM(EMovieRenderPipelineState, "MovieRenderPipelineCore", Uninitialized, ProducingFrames, Finalize, Export, Finished)
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 STANDIN_IMPLEMENT_ENUM(EMovieRenderShotState, "MovieRenderPipelineCore", Uninitialized, WarmingUp, MotionBlur, Rendering, CoolingDown, Finished)
+#else
+STANDIN_IMPLEMENT_ENUM(EMovieRenderShotState, "MovieRenderPipelineCore", Uninitialized, WarmingUp, MotionBlur, Rendering, Finished)
+#endif
 STANDIN_IMPLEMENT_ENUM(EMoviePipelineShutterTiming, "MovieRenderPipelineCore", FrameOpen, FrameCenter, FrameClose)
 
 STANDIN_IMPLEMENT_STRUCT(FMoviePipelineConsoleVariableEntry, "MovieRenderPipelineCore")
@@ -20,6 +24,18 @@ STANDIN_IMPLEMENT_STRUCT(FMoviePipelinePassIdentifier, "MovieRenderPipelineCore"
 {
 	STANDIN_PROPERTY(Name, CPF_BlueprintVisible);
 	STANDIN_PROPERTY(CameraName, CPF_BlueprintVisible);
+}
+
+STANDIN_IMPLEMENT_STRUCT(FMoviePipelineSegmentWorkMetrics, "MovieRenderPipelineCore")
+{
+	constexpr EPropertyFlags ReadOnlyFlags = CPF_BlueprintVisible | CPF_BlueprintReadOnly;
+	STANDIN_PROPERTY(SegmentName, ReadOnlyFlags);
+	STANDIN_PROPERTY(OutputFrameIndex, ReadOnlyFlags);
+	STANDIN_PROPERTY(TotalOutputFrameCount, ReadOnlyFlags);
+	STANDIN_PROPERTY(OutputSubSampleIndex, ReadOnlyFlags);
+	STANDIN_PROPERTY(TotalSubSampleCount, ReadOnlyFlags);
+	STANDIN_PROPERTY(EngineWarmUpFrameIndex, ReadOnlyFlags);
+	STANDIN_PROPERTY(TotalEngineWarmUpFrameCount, ReadOnlyFlags);
 }
 
 STANDIN_IMPLEMENT_STRUCT(FMoviePipelineSidecarCamera, "MovieRenderPipelineCore")

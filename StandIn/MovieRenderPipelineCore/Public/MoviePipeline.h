@@ -9,6 +9,7 @@
 #include "Misc/StringFormatArg.h"
 #include "MoviePipelineBase.h"
 #include "MoviePipelineQueue.h"
+#include "MoviePipelineStandInShotRanges.h"
 #include "Tickable.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/WeakObjectPtrTemplates.h"
@@ -58,34 +59,25 @@ public:
 
 protected:
 	UE_API virtual void ShutdownImpl(bool bIsError) override;
+	virtual UMoviePipelineExecutorJob* GetWorkFinishedJob() const override { return CurrentJob.Get(); }
 
 private:
 	friend class UMoviePipelineBlueprintLibrary;
 
-	// One shot to render: its frames at the output frame rate, [StartFrame, StartFrame + NumFrames).
-	struct FActiveShot
-	{
-		TWeakObjectPtr<UMoviePipelineExecutorShot> Shot;
-		int32 StartFrame = 0;
-		int32 NumFrames = 0;
-	};
-
 	bool GatherActiveShots();
 	int32 ResolveVersionNumber() const;
 	void TickProducingFrames();
-	void RenderFrame(UMoviePipelineExecutorShot& InShot, const FActiveShot& InActiveShot);
+	void RenderFrame(UMoviePipelineExecutorShot& InShot, const UE::MoviePipeline::StandIn::FShotOutputRange& InActiveShot);
 	void AdvanceToNextShot();
 	void SetShotState(int32 InShotIndex, EMovieRenderShotState InState);
 	void UpdateJobProgress();
 	void FinishRender();
-	void TransitionToState(EMovieRenderPipelineState InNewState);
-	void BroadcastWorkFinished();
 	void GetFormatArguments(FMoviePipelineFormatArgs& InOutFormatArgs) const;
 	void RefuseOverlongPath(const FString& InPath) const;
 	UMoviePipelineOutputSetting* GetOutputSetting() const;
 
 	TWeakObjectPtr<UMoviePipelineExecutorJob> CurrentJob;
-	TArray<FActiveShot> ActiveShots;
+	TArray<UE::MoviePipeline::StandIn::FShotOutputRange> ActiveShots;
 	mutable TArray<TObjectPtr<UMoviePipelineExecutorShot>> ActiveShotList;
 	int32 CurrentShotIndex;
 	int32 CurrentFrameInShot;
@@ -94,7 +86,6 @@ private:
 	FFrameRate EffectiveFrameRate;
 	FDateTime InitializationTime;
 	int32 InitializationVersion;
-	bool bFatalError;
 	mutable bool bRefusedOverlongPath;
 };
 

@@ -43,7 +43,16 @@ protected:
 	virtual bool IsShutdownRequestedImpl() const { return bShutdownRequested; }
 	virtual EMovieRenderPipelineState GetPipelineStateImpl() const { return PipelineState; }
 
+	// Stand-in choice: what both pipelines share lives in their base. A logged state change; reaching Finished reports the
+	// work finished, for the job GetWorkFinishedJob names, successful unless bFatalError.
+	UE_API void TransitionToState(EMovieRenderPipelineState InNewState);
+	virtual UMoviePipelineExecutorJob* GetWorkFinishedJob() const PURE_VIRTUAL(UMoviePipelineBase::GetWorkFinishedJob, return nullptr;);
+	// Whether the pipeline was initialized and has not finished; class default objects never run.
+	UE_API bool IsRunning() const;
+
 	EMovieRenderPipelineState PipelineState;
+	// Whether the render failed (or was canceled), so that its work is reported unsuccessful.
+	bool bFatalError;
 	bool bShutdownRequested;
 	// Whether a shutdown was asked for because of an error.
 	bool bShutdownErrorRequested;

@@ -6,6 +6,7 @@
 #include "Containers/Map.h"
 #include "Math/Range.h"
 #include "Misc/FrameNumber.h"
+#include "Misc/EngineVersionComparison.h"
 #include "Misc/Guid.h"
 #include "UObject/ObjectMacros.h"
 
@@ -23,7 +24,7 @@ enum class EMovieRenderPipelineState : uint8
 };
 STANDIN_DECLARE_ENUM(EMovieRenderPipelineState, MOVIERENDERPIPELINECORE_API)
 
-// Stand-in choice: CoolingDown (seen in 5.7) is offered from 5.5 on, as the temporal denoisers it serves shipped by then.
+// Stand-in choice: CoolingDown only from 5.7, where it is seen; 5.3 has none, and 5.5/5.6 are taken to be like 5.3.
 UENUM(BlueprintType)
 enum class EMovieRenderShotState : uint8
 {
@@ -31,8 +32,12 @@ enum class EMovieRenderShotState : uint8
 	WarmingUp = 1,
 	MotionBlur = 2,
 	Rendering = 3,
+#if !UE_VERSION_OLDER_THAN(5, 7, 0)
 	CoolingDown = 4,
 	Finished = 5,
+#else
+	Finished = 4,
+#endif
 };
 STANDIN_DECLARE_ENUM(EMovieRenderShotState, MOVIERENDERPIPELINECORE_API)
 
@@ -114,6 +119,36 @@ public:
 	FString Name;
 };
 
+// How far a graph render is through one shot ("segment"): its output frames, their temporal sub-samples and the
+// engine warm-up frames before them.
+USTRUCT(BlueprintType)
+struct MOVIERENDERPIPELINECORE_API FMoviePipelineSegmentWorkMetrics
+{
+	STANDIN_STRUCT_BODY(FMoviePipelineSegmentWorkMetrics, MOVIERENDERPIPELINECORE_API)
+
+public:
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	FString SegmentName;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 OutputFrameIndex = 0;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 TotalOutputFrameCount = 0;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 OutputSubSampleIndex = 0;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 TotalSubSampleCount = 0;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 EngineWarmUpFrameIndex = 0;
+
+	UPROPERTY(BlueprintReadOnly, Category = "Movie Render Pipeline")
+	int32 TotalEngineWarmUpFrameCount = 0;
+};
+
 // What a render needs to know about one shot at run time; rebuilt from the sequence, never saved.
 // Stand-in choice: only the ranges the stand-in's shot list produces; the engine keeps many more render-time fields.
 struct MOVIERENDERPIPELINECORE_API FMoviePipelineCameraCutInfo
@@ -124,6 +159,10 @@ struct MOVIERENDERPIPELINECORE_API FMoviePipelineCameraCutInfo
 	TRange<FFrameNumber> WarmupRangeRoot = TRange<FFrameNumber>::Empty();
 	// Where the shot is in its render.
 	EMovieRenderShotState State = EMovieRenderShotState::Uninitialized;
+	// How far a graph render is through the shot.
+	FMoviePipelineSegmentWorkMetrics WorkMetrics;
+	// The output version a graph render resolved for the shot.
+	int32 VersionNumber = 0;
 };
 
 // The file name tokens ({name} -> value) and file metadata gathered to write one output file.

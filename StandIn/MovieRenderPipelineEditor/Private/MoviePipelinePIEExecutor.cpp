@@ -1,5 +1,6 @@
 #include "MoviePipelinePIEExecutor.h"
 
+#include "Graph/MovieGraphPipeline.h"
 #include "MoviePipeline.h"
 #include "MoviePipelineQueue.h"
 #include "MovieRenderPipelineCoreModule.h"
@@ -58,14 +59,30 @@ void UMoviePipelinePIEExecutor::OnPIEStartupFinished()
 	}
 	OnIndividualJobStarted().Broadcast(Job);
 
-	// Stand-in choice: every job renders with the legacy pipeline (or the class set with SetMoviePipelineClass) until
-	// the graph pipeline can render.
-	UClass* PipelineClass = TargetPipelineClass && TargetPipelineClass->IsChildOf(UMoviePipeline::StaticClass()) ? TargetPipelineClass.Get() : UMoviePipeline::StaticClass();
-	UMoviePipeline* Pipeline = NewObject<UMoviePipeline>(this, PipelineClass);
+	UMoviePipelineBase* Pipeline = CreatePipelineForJob(*Job);
 	ActiveMoviePipeline = Pipeline;
 	Pipeline->OnMoviePipelineWorkFinished().AddUObject(this, &UMoviePipelinePIEExecutor::OnPipelineWorkFinished);
 	Pipeline->OnMoviePipelineShotWorkFinished().AddUObject(this, &UMoviePipelinePIEExecutor::OnPipelineShotWorkFinished);
-	Pipeline->Initialize(Job);
+	if (UMovieGraphPipeline* GraphPipeline = Cast<UMovieGraphPipeline>(Pipeline))
+	{
+		GraphPipeline->Initialize(Job, FMovieGraphInitConfig());
+	}
+	else
+	{
+		CastChecked<UMoviePipeline>(Pipeline)->Initialize(Job);
+	}
+}
+
+// A job configured with a graph renders with the graph pipeline; any other with the legacy pipeline, or the class set
+// with SetMoviePipelineClass.
+UMoviePipelineBase* UMoviePipelinePIEExecutor::CreatePipelineForJob(const UMoviePipelineExecutorJob& InJob)
+{
+	if (InJob.IsUsingGraphConfiguration())
+	{
+		return NewObject<UMovieGraphPipeline>(this);
+	}
+	UClass* PipelineClass = TargetPipelineClass && TargetPipelineClass->IsChildOf(UMoviePipeline::StaticClass()) ? TargetPipelineClass.Get() : UMoviePipeline::StaticClass();
+	return NewObject<UMoviePipeline>(this, PipelineClass);
 }
 
 void UMoviePipelinePIEExecutor::AbandonPendingJob(const FText& InReason)

@@ -55,6 +55,7 @@ protected:
 
 private:
 	void OnPIEStartupFinished();
+	UMoviePipelineBase* CreatePipelineForJob(const UMoviePipelineExecutorJob& InJob);
 	void AbandonPendingJob(const FText& InReason);
 	void OnPipelineWorkFinished(FMoviePipelineOutputData InOutputData);
 	void OnPipelineShotWorkFinished(FMoviePipelineOutputData InOutputData);

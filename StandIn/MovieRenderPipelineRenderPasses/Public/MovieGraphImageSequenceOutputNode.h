@@ -15,6 +15,20 @@ class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINERENDERPASSES_API) UMovieGraphI
 
 public:
 	UE_API UMovieGraphImageSequenceOutputNode();
+
+protected:
+	// Writes one image per render data of the mask, named by the branch's file name format under the Globals output directory.
+	UE_API virtual void OnReceiveImageDataImpl(UMovieGraphPipeline* InPipeline, UE::MovieGraph::FMovieGraphOutputMergerFrame* InRawFrameData, const TSet<FMovieGraphRenderDataIdentifier>& InMask) override;
+	UE_API virtual void OnAllFramesSubmittedImpl(UMovieGraphPipeline* InPipeline, TObjectPtr<UMovieGraphEvaluatedConfig>& InPrimaryJobEvaluatedGraph) override;
+
+	// Stand-in choice: the format is named by its file extension ("png", "jpg", "bmp", "exr").
+	FString OutputFormatExtension;
+
+private:
+	void ReportWriteFailure(const FString& InPath);
+
+	// Only the first failed write of a render is logged, so that a folder that cannot be written does not flood the log.
+	bool bReportedWriteFailure;
 };
 
 UCLASS(MinimalAPI)

@@ -1,9 +1,12 @@
 #include "Graph/MovieGraphBlueprintLibrary.h"
 
+#include "CineCameraComponent.h"
 #include "Graph/MovieGraphConfig.h"
+#include "Graph/MovieGraphPipeline.h"
 #include "Graph/MovieGraphProjectSettings.h"
 #include "Graph/Nodes/MovieGraphCameraNode.h"
 #include "Graph/Nodes/MovieGraphGlobalOutputSettingNode.h"
+#include "MoviePipelineQueue.h"
 #include "MoviePipelineStandInScriptMessage.h"
 #include "UObject/UnrealType.h"
 
@@ -176,4 +179,25 @@ STANDIN_IMPLEMENT_MINIMALAPI_CLASS(UMovieGraphBlueprintLibrary, CLASS_None, "Mov
 	STANDIN_FUNCTION(ResolveFilenameFormatArguments, TEXT("InFormatString"), TEXT("InParams"), TEXT("OutMergedFormatArgs"));
 	STANDIN_FUNCTION(ResolveFormatArguments, TEXT("InFormatString"), TEXT("InParams"), TEXT("OutMergedFormatArgs"));
 	STANDIN_FUNCTION(ResolveVersionNumber, TEXT("InParams"), TEXT("bGetNextVersion"));
+	STANDIN_FUNCTION(GetJobName, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetJobAuthor, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCompletionPercentage, TEXT("InPipeline"));
+	STANDIN_FUNCTION(GetOverallOutputFrames, TEXT("InMovieGraphPipeline"), TEXT("OutCurrentIndex"), TEXT("OutTotalCount"));
+	STANDIN_FUNCTION(GetJobInitializationTime, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetEstimatedTimeRemaining, TEXT("InMovieGraphPipeline"), TEXT("OutEstimate"));
+	STANDIN_FUNCTION(GetPipelineState, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCurrentSegmentState, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCurrentSegmentName, TEXT("InMovieGraphPipeline"), TEXT("OutOuterName"), TEXT("OutInnerName"));
+	STANDIN_FUNCTION(GetOverallSegmentCounts, TEXT("InMovieGraphPipeline"), TEXT("OutCurrentIndex"), TEXT("OutTotalCount"));
+	STANDIN_FUNCTION(GetCurrentSegmentWorkMetrics, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetRootTimecode, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetRootFrameNumber, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCurrentShotTimecode, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCurrentShotFrameNumber, TEXT("InMovieGraphPipeline"));
+	STANDIN_FUNCTION(GetCurrentFocusDistance, TEXT("InMovieGraphPipeline"), TEXT("InCameraIndex"));
+	STANDIN_FUNCTION(GetCurrentFocalLength, TEXT("InMovieGraphPipeline"), TEXT("InCameraIndex"));
+	STANDIN_FUNCTION(GetCurrentAperture, TEXT("InMovieGraphPipeline"), TEXT("InCameraIndex"));
+	STANDIN_FUNCTION(GetCurrentCineCamera, TEXT("InMovieGraphPipeline"), TEXT("InCameraIndex"));
+	STANDIN_FUNCTION(GetCurrentExecutorShot, TEXT("InMoviePipeline"));
+	STANDIN_FUNCTION(GetCurrentVersionNumber, TEXT("InMovieGraphPipeline"));
 }

@@ -9,12 +9,19 @@
 #include "Math/IntPoint.h"
 #include "Math/IntRect.h"
 #include "Misc/EngineVersionComparison.h"
+#include "Misc/FrameNumber.h"
 #include "Misc/FrameRate.h"
+#include "Misc/Timecode.h"
+#include "Misc/Timespan.h"
+#include "MovieRenderPipelineDataTypes.h"
 
 #define UE_API STANDIN_MINIMALAPI_FUNCTION(MOVIERENDERPIPELINECORE_API)
 
+class UCineCameraComponent;
 class UMovieGraphEvaluatedConfig;
 class UMovieGraphGlobalOutputSettingNode;
+class UMovieGraphPipeline;
+class UMoviePipelineExecutorShot;
 
 UCLASS(MinimalAPI, meta = (ScriptName = "MovieGraphLibrary"))
 class STANDIN_MINIMALAPI_CLASS(MOVIERENDERPIPELINECORE_API) UMovieGraphBlueprintLibrary : public UBlueprintFunctionLibrary
@@ -79,6 +86,81 @@ public:
 	// disk (-1 for none), plus one when bGetNextVersion. -1 and a script error without an evaluated graph.
 	UFUNCTION(BlueprintCallable, Category = "Movie Graph")
 	UE_API static int32 ResolveVersionNumber(FMovieGraphFilenameResolveParams InParams, const bool bGetNextVersion = true);
+
+	// The status of a running graph render, as the getters below report it. A null pipeline gives empty text, zeros, the
+	// Uninitialized state, default timecodes and frame number -1; no current shot gives the shot's default values.
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FText GetJobName(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	// The job's author, or the user running the editor when the job names none.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FText GetJobAuthor(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	// The output frames written so far over all output frames of the render, 0 to 1.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static float GetCompletionPercentage(const UMovieGraphPipeline* InPipeline);
+
+	// The output frames written so far, and the output frames of every shot of the render.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static void GetOverallOutputFrames(const UMovieGraphPipeline* InMovieGraphPipeline, int32& OutCurrentIndex, int32& OutTotalCount);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FDateTime GetJobInitializationTime(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	// The time left at the pace so far; false (and no time) until a frame has been written.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static bool GetEstimatedTimeRemaining(const UMovieGraphPipeline* InMovieGraphPipeline, FTimespan& OutEstimate);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static EMovieRenderPipelineState GetPipelineState(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static EMovieRenderShotState GetCurrentSegmentState(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static void GetCurrentSegmentName(const UMovieGraphPipeline* InMovieGraphPipeline, FText& OutOuterName, FText& OutInnerName);
+
+	// The current shot's index and the number of shots that render.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static void GetOverallSegmentCounts(const UMovieGraphPipeline* InMovieGraphPipeline, int32& OutCurrentIndex, int32& OutTotalCount);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FMoviePipelineSegmentWorkMetrics GetCurrentSegmentWorkMetrics(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FTimecode GetRootTimecode(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FFrameNumber GetRootFrameNumber(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FTimecode GetCurrentShotTimecode(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static FFrameNumber GetCurrentShotFrameNumber(const UMovieGraphPipeline* InMovieGraphPipeline);
+
+	// The camera getters take the current camera for index -1, else the shot's camera of that index: -1 for the focus
+	// distance and focal length, 0 for the aperture and null when there is no such camera.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static float GetCurrentFocusDistance(const UMovieGraphPipeline* InMovieGraphPipeline, int32 InCameraIndex = -1);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static float GetCurrentFocalLength(const UMovieGraphPipeline* InMovieGraphPipeline, int32 InCameraIndex = -1);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static float GetCurrentAperture(const UMovieGraphPipeline* InMovieGraphPipeline, int32 InCameraIndex = -1);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static UCineCameraComponent* GetCurrentCineCamera(const UMovieGraphPipeline* InMovieGraphPipeline, int32 InCameraIndex = -1);
+
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static UMoviePipelineExecutorShot* GetCurrentExecutorShot(const UMovieGraphPipeline* InMoviePipeline);
+
+	// The output version resolved for the current shot; 0 and a script error without a pipeline or shot.
+	// Stand-in choice: offered in every version built.
+	UFUNCTION(BlueprintPure, Category = "Movie Graph")
+	UE_API static int32 GetCurrentVersionNumber(const UMovieGraphPipeline* InMovieGraphPipeline);
 };
 
 #undef UE_API

@@ -11,8 +11,10 @@
 #include "UObject/ObjectPtr.h"
 
 class UMovieGraphEvaluatedConfig;
+class UMovieGraphPipeline;
 class UMoviePipelineExecutorJob;
 class UMoviePipelineExecutorShot;
+struct FMovieGraphTraversalContext;
 
 USTRUCT(BlueprintType)
 struct FMovieGraphResolveArgs
@@ -33,6 +35,14 @@ struct FMovieGraphFilenameResolveParams
 	STANDIN_STRUCT_BODY(FMovieGraphFilenameResolveParams, MOVIERENDERPIPELINECORE_API)
 
 public:
+	// The parameters a render resolves file names with for the render data at the context's time: frame numbers, job,
+	// shot and shot version, the pipeline's initialization time, and zero padding and frame number offset from the Globals
+	// output settings. InAdditionalFormatArgs become the format overrides.
+	// Stand-in choice: offered in every version, without the engine's sample-state parameter.
+	MOVIERENDERPIPELINECORE_API static FMovieGraphFilenameResolveParams MakeResolveParams(const FMovieGraphRenderDataIdentifier& InRenderDataIdentifier,
+		const UMovieGraphPipeline* InPipeline, const TObjectPtr<UMovieGraphEvaluatedConfig>& InEvaluatedConfig, const FMovieGraphTraversalContext& InTraversalContext,
+		const TMap<FString, FString>& InAdditionalFormatArgs = {});
+
 	UPROPERTY(BlueprintReadWrite, Category = "Movie Graph")
 	FMovieGraphRenderDataIdentifier RenderDataIdentifier;
 
