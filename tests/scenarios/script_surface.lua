@@ -3,9 +3,7 @@
 
 -- Names the graph side adds when it lands. While a name is listed here it must be absent; the change that installs it
 -- removes it from this list.
-local PENDING = {
-	"mrg_pipeline_status", "mrg_request_shutdown",
-}
+local PENDING = {}
 
 local GLOBALS = {
 	"mrq_add_job", "mrq_allocate_job", "mrq_duplicate_job", "mrq_set_job_index", "mrq_render_job", "mrq_render_queue",

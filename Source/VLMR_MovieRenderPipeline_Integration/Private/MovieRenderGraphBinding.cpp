@@ -6,6 +6,7 @@
 #include "MovieRenderGraphEvaluation.h"
 #include "MovieRenderGraphGlobals.h"
 #include "MovieRenderGraphNodeEditing.h"
+#include "MovieRenderGraphPipelineStatus.h"
 #include "VLMRScriptArguments.h"
 
 void BindMovieRenderGraphGlobals(sol::state& Lua, FLuaSessionData& Session)
@@ -17,6 +18,8 @@ void BindMovieRenderGraphGlobals(sol::state& Lua, FLuaSessionData& Session)
 	Lua.set_function("mrg_named_resolution", [S](sol::this_state L, sol::object ProfileOrSize) { return GetNamedResolution(L, *S, ProfileOrSize); });
 	Lua.set_function("mrg_resolve_format", [S](sol::this_state L, const FScriptText& Format, sol::object Options) { return ResolveFormat(L, *S, Format.Value, Options); });
 	Lua.set_function("mrg_resolve_version", [S](sol::this_state L, sol::object Options) { return ResolveVersion(L, *S, Options); });
+	Lua.set_function("mrg_pipeline_status", [S](sol::this_state L) { return GetPipelineStatus(L, *S); });
+	Lua.set_function("mrg_request_shutdown", [S](sol::this_state L, sol::object Options) { return RequestPipelineShutdown(L, *S, Options); });
 }
 
 namespace VLMRMovieRenderGraph

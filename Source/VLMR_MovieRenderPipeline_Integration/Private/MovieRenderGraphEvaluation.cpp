@@ -167,12 +167,6 @@ namespace VLMR
 		return { Point.X, Point.Y };
 	}
 
-	template<class TEnum>
-	static FString EnumValueName(TEnum Value)
-	{
-		return StaticEnum<TEnum>()->GetNameStringByValue(static_cast<int64>(Value));
-	}
-
 	static void ReadPlaybackRange(const UMovieGraphGlobalOutputSettingNode& Node, FOutputSettingsRow& OutRow)
 	{
 #if UE_VERSION_OLDER_THAN(5, 6, 0)

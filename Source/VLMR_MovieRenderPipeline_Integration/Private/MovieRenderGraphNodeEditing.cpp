@@ -158,16 +158,6 @@ namespace VLMR
 		return sol::make_object(Lua, true);
 	}
 
-	static FString ValueTypeName(EMovieGraphValueType Type)
-	{
-		return StaticEnum<EMovieGraphValueType>()->GetNameStringByValue(static_cast<int64>(Type));
-	}
-
-	static FString ContainerTypeName(EMovieGraphContainerType Type)
-	{
-		return StaticEnum<EMovieGraphContainerType>()->GetNameStringByValue(static_cast<int64>(Type));
-	}
-
 	// A variable's description, read before any Lua value is made.
 	struct FVariableInfo
 	{
@@ -191,8 +181,8 @@ namespace VLMR
 		Info.Description = Variable.Description;
 		Info.bIsGlobal = Variable.IsGlobal();
 		Info.bIsEditable = Variable.IsEditable();
-		Info.Type = ValueTypeName(Variable.GetValueType());
-		Info.ContainerType = ContainerTypeName(Variable.GetValueContainerType());
+		Info.Type = EnumValueName(Variable.GetValueType());
+		Info.ContainerType = EnumValueName(Variable.GetValueContainerType());
 		if (const UObject* TypeObject = Variable.GetValueTypeObject())
 		{
 			Info.TypeObject = TypeObject->GetPathName();
@@ -326,7 +316,7 @@ namespace VLMR
 	// The script's value as the serialised text of a variable of this type.
 	static bool CoerceVariableValue(const sol::object& Value, EMovieGraphValueType Type, FString& OutText, FString& OutError)
 	{
-		const FString TypeName = ValueTypeName(Type);
+		const FString TypeName = EnumValueName(Type);
 		switch (Value.get_type())
 		{
 		case sol::type::boolean:
@@ -366,7 +356,7 @@ namespace VLMR
 		if (Variable.GetValueContainerType() != EMovieGraphContainerType::None)
 		{
 			OutError = FString::Printf(TEXT("'%s' is a container variable (%s); only scalar values are supported"), *Name,
-				*ContainerTypeName(Variable.GetValueContainerType()));
+				*EnumValueName(Variable.GetValueContainerType()));
 			return false;
 		}
 		return true;
@@ -409,7 +399,7 @@ namespace VLMR
 				Variable->SetValueSerializedString(Previous);
 				Transaction.Cancel();
 				return Fail(Lua, Session, Label, FString::Printf(TEXT("engine rejected value '%s' for %s variable '%s'"), *Coerced,
-					*ValueTypeName(Variable->GetValueType()), *Name));
+					*EnumValueName(Variable->GetValueType()), *Name));
 			}
 			Variable->PostEditChange();
 			Graph->MarkPackageDirty();

@@ -4,9 +4,13 @@
 #include "Engine/Engine.h"
 #include "Engine/World.h"
 #include "LuaSessionData.h"
+#include "MoviePipelineBase.h"
 #include "MoviePipelineExecutor.h"
+#include "MoviePipelineLinearExecutor.h"
 #include "MoviePipelineQueue.h"
 #include "MoviePipelineQueueSubsystem.h"
+#include "Templates/Casts.h"
+#include "UObject/UnrealType.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
 
@@ -74,6 +78,31 @@ namespace VLMR
 	{
 		const UMoviePipelineExecutorBase* Executor = Subsystem ? Subsystem->GetActiveExecutor() : nullptr;
 		return Executor && Executor->IsRendering();
+	}
+
+	UMoviePipelineBase* FindActivePipeline(UMoviePipelineExecutorBase* Executor)
+	{
+		UMoviePipelineLinearExecutorBase* LinearExecutor = Cast<UMoviePipelineLinearExecutorBase>(Executor);
+		if (!LinearExecutor)
+		{
+			return nullptr;
+		}
+		// The engine keeps the active pipeline in a protected property.
+		const FObjectProperty* Property = CastField<FObjectProperty>(LinearExecutor->GetClass()->FindPropertyByName(TEXT("ActiveMoviePipeline")));
+		if (!Property)
+		{
+			return nullptr;
+		}
+		return Cast<UMoviePipelineBase>(Property->GetObjectPropertyValue_InContainer(LinearExecutor));
+	}
+
+	FActiveRender FindActiveRender()
+	{
+		FActiveRender Render;
+		Render.Subsystem.Reset(GetQueueSubsystem());
+		Render.Executor.Reset(Render.Subsystem ? Render.Subsystem->GetActiveExecutor() : nullptr);
+		Render.Pipeline.Reset(FindActivePipeline(Render.Executor.Get()));
+		return Render;
 	}
 
 	TArray<TStrongObjectPtr<UMoviePipelineExecutorJob>> GetHeldJobs(const UMoviePipelineQueue& Queue)

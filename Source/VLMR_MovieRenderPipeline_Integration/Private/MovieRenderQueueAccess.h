@@ -51,6 +51,17 @@ namespace VLMR
 	// The pipeline an executor is running: read by reflection from a linear executor's "ActiveMoviePipeline".
 	UMoviePipelineBase* FindActivePipeline(UMoviePipelineExecutorBase* Executor);
 
+	// The render the editor runs: the queue subsystem, its active executor and that executor's pipeline, each held for
+	// the call; a missing link leaves it and every later one empty.
+	struct FActiveRender
+	{
+		TStrongObjectPtr<UMoviePipelineQueueSubsystem> Subsystem;
+		TStrongObjectPtr<UMoviePipelineExecutorBase> Executor;
+		TStrongObjectPtr<UMoviePipelineBase> Pipeline;
+	};
+
+	FActiveRender FindActiveRender();
+
 	// The queue's jobs, each held for the call, in queue order; null entries stay null.
 	TArray<TStrongObjectPtr<UMoviePipelineExecutorJob>> GetHeldJobs(const UMoviePipelineQueue& Queue);
 

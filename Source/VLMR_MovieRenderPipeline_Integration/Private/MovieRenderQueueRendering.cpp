@@ -9,6 +9,7 @@
 #include "MoviePipelineQueue.h"
 #include "MoviePipelineQueueSubsystem.h"
 #include "MovieRenderPipelineSettings.h"
+#include "MovieRenderGraphPipelineStatus.h"
 #include "MovieRenderQueueAccess.h"
 #include "MovieRenderQueueGlobals.h"
 #include "UObject/StrongObjectPtr.h"
@@ -29,22 +30,6 @@ namespace VLMR
 		}
 		UClass* Class = StaticLoadClass(UMoviePipelineExecutorBase::StaticClass(), nullptr, *Settings->DefaultLocalExecutor.ToString());
 		return Class && Class->IsChildOf(UMoviePipelineExecutorBase::StaticClass()) ? Class : nullptr;
-	}
-
-	UMoviePipelineBase* FindActivePipeline(UMoviePipelineExecutorBase* Executor)
-	{
-		UMoviePipelineLinearExecutorBase* LinearExecutor = Cast<UMoviePipelineLinearExecutorBase>(Executor);
-		if (!LinearExecutor)
-		{
-			return nullptr;
-		}
-		// The engine keeps the active pipeline in a protected property.
-		const FObjectProperty* Property = CastField<FObjectProperty>(LinearExecutor->GetClass()->FindPropertyByName(TEXT("ActiveMoviePipeline")));
-		if (!Property)
-		{
-			return nullptr;
-		}
-		return Cast<UMoviePipelineBase>(Property->GetObjectPropertyValue_InContainer(LinearExecutor));
 	}
 
 	// What a render needs: an idle subsystem and a queue with jobs, each held for the call; else the call's failure line.
@@ -241,7 +226,8 @@ namespace VLMR
 		return Table;
 	}
 
-	static sol::table MakeJobProgressTable(sol::state_view Lua, const FJobProgress& Job)
+	// A graph row carries the one status table of the graph pipeline, when it has one.
+	static sol::table MakeJobProgressTable(sol::state_view Lua, const FJobProgress& Job, const sol::object& GraphStatus)
 	{
 		sol::table Row = Lua.create_table();
 		Row["index"] = Job.Index;
@@ -259,6 +245,10 @@ namespace VLMR
 		else if (Job.PipelineKind == EPipelineKind::Graph)
 		{
 			Row["pipeline_type"] = "graph";
+			if (GraphStatus.valid())
+			{
+				Row["graph"] = GraphStatus;
+			}
 		}
 		return Row;
 	}
@@ -283,11 +273,18 @@ namespace VLMR
 			Jobs = ReadJobRows(*Queue, [&Pipeline](const UMoviePipelineExecutorJob& Job, int32 Index) { return ReadJobProgress(Job, Index, Pipeline.Get()); });
 		}
 
+		TOptional<FGraphPipelineStatus> GraphStatus;
+		if (const UMovieGraphPipeline* GraphPipeline = Cast<UMovieGraphPipeline>(Pipeline.Get()))
+		{
+			GraphStatus = ReadGraphPipelineStatus(*GraphPipeline);
+		}
+
+		const sol::object GraphTable = GraphStatus.IsSet() ? sol::object(MakeGraphPipelineStatusTable(Lua, GraphStatus.GetValue())) : sol::object();
 		sol::table Result = Lua.create_table();
 		Result["is_rendering"] = bRendering;
 		Result["progress"] = Progress;
 		Result["status_message"] = ToUtf8(StatusMessage);
-		Result["jobs"] = MakeIndexedTable(Lua, Jobs, &MakeJobProgressTable);
+		Result["jobs"] = MakeIndexedTable(Lua, Jobs, [&GraphTable](sol::state_view L, const FJobProgress& Job) { return MakeJobProgressTable(L, Job, GraphTable); });
 		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("is_rendering=%s progress=%.1f%%"), BoolText(bRendering), Progress * 100.0));
 		return Result;
 	}

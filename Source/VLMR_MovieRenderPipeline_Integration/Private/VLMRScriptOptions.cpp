@@ -109,6 +109,19 @@ namespace VLMR
 		return Value;
 	}
 
+	bool FScriptOptions::IsTruthy(const char* Key) const
+	{
+		if (!bTableLike)
+		{
+			return false;
+		}
+		lua_State* L = Options.lua_state();
+		PushField(Key);
+		const bool bTruthy = lua_toboolean(L, -1) != 0;
+		lua_pop(L, 1);
+		return bTruthy;
+	}
+
 	TOptional<FString> FScriptOptions::GetString(const char* Key) const
 	{
 		if (!bTableLike)

@@ -20,6 +20,8 @@ namespace VLMR
 		TOptional<int64> GetInteger(const char* Key) const;
 		TOptional<double> GetNumber(const char* Key) const;
 		TOptional<bool> GetBool(const char* Key) const;
+		// Lua truth: any value but nil and false; an unreadable field counts as nil.
+		bool IsTruthy(const char* Key) const;
 		// A string holding no NUL character.
 		TOptional<FString> GetString(const char* Key) const;
 		// The string-to-string pairs of a plain table field, other pairs skipped; the table's own entries, no metamethods.

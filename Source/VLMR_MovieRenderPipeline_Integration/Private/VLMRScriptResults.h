@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "UObject/Class.h"
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 #include "VelmireLuaIncludes.h"
@@ -68,4 +69,11 @@ namespace VLMR
 	sol::variadic_results NilValue(sol::state_view Lua);
 
 	const TCHAR* BoolText(bool bValue);
+
+	// The engine's name of an enum value ("ProducingFrames"), as results report it.
+	template<class TEnum>
+	FString EnumValueName(TEnum Value)
+	{
+		return StaticEnum<TEnum>()->GetNameStringByValue(static_cast<int64>(Value));
+	}
 }

@@ -108,11 +108,12 @@ end
 -- Graph edits with arguments shaped as an artist's script writes them, so that nodes get made and wired and later calls
 -- find them: random arguments rarely name a node class, a node id and a pin at once.
 local NODE_CLASSES = { "MovieGraphGlobalOutputSettingNode", "GlobalGameOverrides", "RenderLayer", "SubgraphNode",
-	"MovieGraphVariableNode", "MovieGraphInputNode", "Reroute", "MultiLayerEXR", "Deferred", "MovieGraphSettingNode" }
+	"MovieGraphVariableNode", "MovieGraphInputNode", "Reroute", "MultiLayerEXR", "Deferred", "MovieGraphSettingNode",
+	"ImageSequenceOutputNode_PNG", "WarmUpSetting", "SamplingMethod" }
 local PIN_LABELS = { "Globals", "", "Beauty", "NoSuchBranch", "None" }
 local NODE_PROPERTIES = { "OutputDirectory", "OutputResolution", "ZeroPadFrameNumbers", "bOverride_ZeroPadFrameNumbers",
 	"OutputFrameRate", "VersioningSettings", "CustomPlaybackRangeStart", "AdaptResolution", "LayerName", "FileNameFormat",
-	"ScriptTags", "Nope" }
+	"ScriptTags", "NumWarmUpFrames", "bEmulateMotionBlur", "TemporalSampleCount", "Nope" }
 
 local function node_id(fz)
 	local ids = {}
@@ -197,6 +198,54 @@ local function executor_step()
 	return editor_step("set_default_local_executor", quoted(class_path))
 end
 
+-- A graph that renders: one render layer whose deferred pass is written as PNG files, warm-up and temporal samples on
+-- Globals; and a queue job that renders through it.
+local RENDERABLE_GRAPH = [[
+local graph = mrq_open_graph("Fz/Graph1")
+if graph then
+	graph:add_output("Beauty")
+	local ids = {}
+	for _, class in ipairs({ "GlobalOutputSetting", "WarmUpSetting", "SamplingMethod", "RenderLayer", "DeferredRenderPass", "ImageSequenceOutputNode_PNG" }) do
+		ids[#ids + 1] = (graph:add_node(class) or {}).id
+	end
+	if #ids == 6 then
+		graph:connect(ids[1], "", ids[2], "")
+		graph:connect(ids[2], "", ids[3], "")
+		graph:connect(ids[3], "", "output", "Globals")
+		graph:connect(ids[4], "", ids[5], "")
+		graph:connect(ids[5], "", ids[6], "")
+		graph:connect(ids[6], "", "output", "Beauty")
+		graph:set_node_property(ids[2], "NumWarmUpFrames", 1)
+		graph:set_node_property(ids[3], "TemporalSampleCount", 2)
+		graph:set_node_property(ids[1], "OutputDirectory", '(Path="{project_dir}/Saved/MovieRenders/Fz")')
+	end
+end
+local job = mrq_add_job("Seq/Shot010")
+if job then
+	job:set_graph("Fz/Graph1")
+end
+]]
+
+local function renderable_graph_step()
+	local chunk = assert(load(RENDERABLE_GRAPH, "=renderable graph"))
+	return plain_step("renderable graph", RENDERABLE_GRAPH, chunk)
+end
+
+-- Looks at, or asks to stop, the render that runs (graph or legacy), with an option table as scripts write it.
+local function pipeline_step(fz)
+	if math.random(2) == 1 then
+		return binding_step("mrg_pipeline_status")
+	end
+	return binding_step("mrg_request_shutdown", values.weighted({
+		{ 2, function() return arg(nil, "nil") end },
+		{ 2, function()
+			local flag = math.random(2) == 1
+			return arg({ error = flag }, string.format("{ error = %s }", tostring(flag)))
+		end },
+		{ 1, function() return values.any(fz) end },
+	}))
+end
+
 local function drop_finalizers_step(fz)
 	local behaviours, texts = {}, {}
 	for index = 1, math.random(1, 4) do
@@ -225,6 +274,8 @@ local ACTIONS = {
 	{ 1, function() return binding_step("mrq_render_queue") end },
 	{ 1, render_job_step },
 	{ 2, cancel_render_step },
+	{ 3, pipeline_step },
+	{ 1, renderable_graph_step },
 	{ 1, function() return editor_step("set_rendering", literal(math.random(2) == 1)) end },
 	{ 3, function() return binding_step("mrq_save_queue", quoted(pick(QUEUE_ASSETS))) end },
 	{ 3, function() return binding_step("mrq_load_queue", quoted(pick(QUEUE_ASSETS))) end },
@@ -285,6 +336,7 @@ function actions.setup_steps()
 		binding_step("mrq_add_job", quoted("Seq/Shot010")),
 		binding_step("mrq_open_config", quoted("Fz/Cfg1")),
 		binding_step("mrq_open_graph", quoted("Fz/Graph1")),
+		renderable_graph_step(),
 		binding_step("mrq_list_settings"))
 end
 
