@@ -223,12 +223,19 @@ end
 local job = mrq_add_job("Seq/Shot010")
 if job then
 	job:set_graph("Fz/Graph1")
+	-- First in the queue, so that a render of the queue starts with it.
+	local queue = mrq_get_queue()
+	if queue and queue.count then
+		mrq_set_job_index(queue.count, 1)
+	end
 end
 ]]
 
+-- Wires the graph and queues its job, and now and then renders the queue it heads at once.
 local function renderable_graph_step()
-	local chunk = assert(load(RENDERABLE_GRAPH, "=renderable graph"))
-	return plain_step("renderable graph", RENDERABLE_GRAPH, chunk)
+	local code = RENDERABLE_GRAPH .. (math.random(2) == 1 and "mrq_render_queue()\n" or "")
+	local chunk = assert(load(code, "=renderable graph"))
+	return plain_step("renderable graph", code, chunk)
 end
 
 -- Looks at, or asks to stop, the render that runs (graph or legacy), with an option table as scripts write it.
@@ -275,7 +282,7 @@ local ACTIONS = {
 	{ 1, render_job_step },
 	{ 2, cancel_render_step },
 	{ 3, pipeline_step },
-	{ 1, renderable_graph_step },
+	{ 2, renderable_graph_step },
 	{ 1, function() return editor_step("set_rendering", literal(math.random(2) == 1)) end },
 	{ 3, function() return binding_step("mrq_save_queue", quoted(pick(QUEUE_ASSETS))) end },
 	{ 3, function() return binding_step("mrq_load_queue", quoted(pick(QUEUE_ASSETS))) end },
