@@ -17,9 +17,9 @@ build: bootstrap
 test: build
 	@ctest --preset default -j $(JOBS)
 
-# The same for the 5.5 and 5.8 builds, so that every version gate is exercised both ways.
+# The same for the 5.5, 5.6 and 5.8 builds, so that every version gate is exercised both ways.
 test-versions: bootstrap
-	@for preset in ue55 ue58; do \
+	@for preset in ue55 ue56 ue58; do \
 		cmake --preset $$preset >/dev/null && cmake --build --preset $$preset -j $(JOBS) && \
 		ctest --preset $$preset -j $(JOBS) || exit 1; \
 	done
@@ -39,4 +39,4 @@ fuzz: build
 	@tests/fuzz/campaign.sh build/default/bin/vlmr
 
 clean:
-	@rm -rf build/default build/ue55 build/ue58 build/release
+	@rm -rf build/default build/ue55 build/ue56 build/ue58 build/release
