@@ -13,6 +13,8 @@ namespace UE::Vlmr
 	{
 		const TCHAR* const DiscoveryPresetPath = TEXT("/Game/VlmrHandleDiscovery/Preset");
 		const TCHAR* const DiscoveryGraphPath = TEXT("/Game/VlmrHandleDiscovery/Graph");
+		// A setting node every engine version offers, added to the discovery graph for its node_info table.
+		const char* const DiscoveryNodeClass = "GlobalOutputSetting";
 
 		std::string ToUtf8(const FString& Text)
 		{
@@ -102,7 +104,9 @@ namespace UE::Vlmr
 			const std::string GraphPath = IsFunction(OpenGraph) ? MakeAssetToOpen(&CreateGraphConfigAsset, DiscoveryGraphPath) : std::string();
 			if (!GraphPath.empty())
 			{
-				AddHandleType(Lua.lua_state(), TEXT("graph"), CallForFirstResult(OpenGraph, GraphPath), OutTypes);
+				const sol::object Graph = CallForFirstResult(OpenGraph, GraphPath);
+				AddHandleType(Lua.lua_state(), TEXT("graph"), Graph, OutTypes);
+				AddHandleType(Lua.lua_state(), TEXT("node_info"), CallMethod(Graph, "add_node", DiscoveryNodeClass), OutTypes);
 			}
 		}
 	}

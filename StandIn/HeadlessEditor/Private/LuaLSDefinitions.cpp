@@ -1,6 +1,7 @@
 #include "BindingDocs.h"
 
 #include "HandleDiscovery.h"
+#include "LuaReturnTypes.h"
 #include "LuaSignature.h"
 #include "VelmireExtensionRegistrar.h"
 
@@ -12,7 +13,14 @@ namespace UE::Vlmr
 		{
 			FLuaSignature Signature;
 			const FLuaFunctionDoc* Doc = nullptr;
+			FLuaLSReturn Return;
 		};
+
+		// "mrg_support" for a global, "graph_evaluate" for the method graph:evaluate.
+		FString MakeResultName(const FLuaSignature& Signature)
+		{
+			return Signature.IsMethod() ? Signature.Owner + TEXT("_") + Signature.Name : Signature.Name;
+		}
 
 		// Records that name one call; records listing several ("graph:evaluate / output_settings / ...") only point to
 		// the records of the other binding and are left out.
@@ -27,6 +35,7 @@ namespace UE::Vlmr
 					if (ParseLuaSignature(Doc.Signature, Function.Signature))
 					{
 						Function.Doc = &Doc;
+						Function.Return = ToLuaLSReturn(Doc.Returns, MakeResultName(Function.Signature));
 						Functions.Add(MoveTemp(Function));
 					}
 				}
@@ -65,7 +74,7 @@ namespace UE::Vlmr
 				OutLines.Add(FString::Printf(TEXT("---@param %s%s any"), *Parameter.Name,
 					Parameter.bOptional && Parameter.Name != TEXT("...") ? TEXT("?") : TEXT("")));
 			}
-			OutLines.Add(FString::Printf(TEXT("---@return %s # %s"), *ToLuaLSReturnType(Function.Doc->Returns), *Function.Doc->Returns));
+			OutLines.Add(FString::Printf(TEXT("---@return %s # %s"), *Function.Return.Type, *Function.Doc->Returns));
 			OutLines.Add(FString::Printf(TEXT("function %s(%s) end"), *Declarator, *JoinParameterNames(Function.Signature)));
 		}
 
@@ -96,8 +105,9 @@ namespace UE::Vlmr
 			return Added;
 		}
 
-		// The handles found on real handle tables, with the methods the records document for them and every handle kind
-		// a record returns, so that what the records promise is declared even where no handle could be built.
+		// The handles and named results found on real tables, with the methods the records document for them and every
+		// handle kind and named result a record returns, so that what the records promise is declared even where no table
+		// could be built.
 		TArray<FHandleType> CollectHandleClasses(const TArray<FHandleType>& DiscoveredHandles, const TArray<FDocumentedFunction>& Functions)
 		{
 			TArray<FHandleType> Classes = DiscoveredHandles;
@@ -109,12 +119,17 @@ namespace UE::Vlmr
 					Class.Methods.AddUnique(Function.Signature.Name);
 					Class.Methods.Sort();
 				}
-				for (const FString& Kind : FindHandleKinds(Function.Doc->Returns))
+				for (const FString& Kind : Function.Return.NamedKinds)
 				{
 					FindOrAddHandleType(Classes, Kind);
 				}
 			}
 			return Classes;
+		}
+
+		FString FormatFieldLine(const FString& Access, const FString& Name, bool bOptional, const FString& Type)
+		{
+			return FString::Printf(TEXT("---@field %s%s%s %s"), *Access, *Name, bOptional ? TEXT("?") : TEXT(""), *Type);
 		}
 
 		void AppendHandleClass(const FHandleType& Handle, const TArray<FDocumentedFunction>& Functions, TArray<FString>& OutLines)
@@ -124,8 +139,12 @@ namespace UE::Vlmr
 			for (const FHandleField& Field : Handle.Fields)
 			{
 				// Fields named "__..." are the bindings' own bookkeeping, not for scripts.
-				OutLines.Add(FString::Printf(TEXT("---@field %s%s %s"), Field.Name.StartsWith(TEXT("__")) ? TEXT("private ") : TEXT(""),
-					*Field.Name, *Field.LuaType));
+				const FString Access = Field.Name.StartsWith(TEXT("__")) ? TEXT("private ") : TEXT("");
+				OutLines.Add(FormatFieldLine(Access, Field.Name, false, Field.LuaType));
+			}
+			if (Handle.Methods.IsEmpty())
+			{
+				return;
 			}
 			OutLines.Add(FString::Printf(TEXT("local %s = {}"), *Handle.Kind));
 			for (const FString& Method : Handle.Methods)
@@ -138,6 +157,23 @@ namespace UE::Vlmr
 				else
 				{
 					AppendUndocumentedMethod(Declarator, OutLines);
+				}
+			}
+		}
+
+		// The classes of the result tables, in the order of the records that describe them.
+		void AppendResultClasses(const TArray<FDocumentedFunction>& Functions, TArray<FString>& OutLines)
+		{
+			for (const FDocumentedFunction& Function : Functions)
+			{
+				for (const FLuaLSClass& Class : Function.Return.Classes)
+				{
+					OutLines.Add(FString());
+					OutLines.Add(TEXT("---@class ") + Class.Name);
+					for (const FLuaLSField& Field : Class.Fields)
+					{
+						OutLines.Add(FormatFieldLine(FString(), Field.Name, Field.bOptional, Field.Type));
+					}
 				}
 			}
 		}
@@ -161,6 +197,7 @@ namespace UE::Vlmr
 		{
 			AppendHandleClass(Handle, Functions, Lines);
 		}
+		AppendResultClasses(Functions, Lines);
 		return Lines;
 	}
 }

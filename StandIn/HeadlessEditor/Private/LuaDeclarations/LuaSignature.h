@@ -1,4 +1,4 @@
-// Reading a documentation record's signature and returns text as Lua declarations.
+// Reading a documentation record's signature as a Lua call form.
 #pragma once
 
 #include "CoreMinimal.h"
@@ -24,12 +24,6 @@ namespace UE::Vlmr
 	// False for text that is not one call form, such as "graph:evaluate / output_settings / resolution".
 	bool ParseLuaSignature(const FString& Signature, FLuaSignature& OutSignature);
 
-	// The LuaLS type of a returns text: "job handle or nil" -> "vlmr.job|nil", "bool" -> "boolean", unknown -> "any".
-	FString ToLuaLSReturnType(const FString& Returns);
-
-	// The handle kinds a returns text names: "job handle or nil" -> { "job" }.
-	TArray<FString> FindHandleKinds(const FString& Returns);
-
-	// The LuaLS class of a handle kind: "job" -> "vlmr.job".
-	FString ToLuaLSClassName(const FString& HandleKind);
+	// A Lua name: letters, digits and underscores, not starting with a digit.
+	bool IsLuaIdentifier(const FString& Text);
 }
