@@ -1,4 +1,4 @@
-// What the queue binding's calls cost as the queue and the class registry grow; each should grow linearly.
+// What the queue and graph bindings' calls cost as the queue and the class registry grow.
 #include <benchmark/benchmark.h>
 
 #include "CoreMinimal.h"
@@ -140,5 +140,28 @@ static void BM_FindOrAddSetting(benchmark::State& State)
 	State.SetComplexityN(State.range(0));
 }
 BENCHMARK(BM_FindOrAddSetting)->RangeMultiplier(2)->Range(3750, 30000)->Complexity(benchmark::oN)->Unit(benchmark::kMicrosecond);
+
+static void BM_GraphAddNode(benchmark::State& State)
+{
+	FBenchmarkEditor& Editor = GetEditor();
+	RegisterClassesUpTo(static_cast<int32>(State.range(0)));
+	sol::state& Lua = Editor.Session->GetState();
+	Lua.script("bench_graph = mrq_open_graph('Graphs/ExampleGraph')");
+	sol::protected_function AddNode = Lua["bench_graph"]["add_node"];
+	sol::protected_function RemoveNode = Lua["bench_graph"]["remove_node"];
+	const sol::object Graph = Lua["bench_graph"];
+	for (auto _ : State)
+	{
+		// The substring pass: no node class is named exactly "GlobalOutputSetting".
+		sol::protected_function_result Result = AddNode(Graph, "GlobalOutputSetting");
+		State.PauseTiming();
+		const sol::table Node = Result;
+		RemoveNode(Graph, Node.get<std::string>("id"));
+		ClearSessionLog();
+		State.ResumeTiming();
+	}
+	State.SetComplexityN(State.range(0));
+}
+BENCHMARK(BM_GraphAddNode)->RangeMultiplier(2)->Range(3750, 30000)->Complexity(benchmark::oN)->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_MAIN();

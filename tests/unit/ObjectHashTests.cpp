@@ -146,3 +146,29 @@ TEST_F(ObjectHashTest, UnhashedObjectsAreNoLongerFoundAndFreedSlotsAreReused)
 	EXPECT_EQ(GUObjectArray.IndexToObject(-1), nullptr);
 	EXPECT_EQ(GUObjectArray.IndexToObject(GUObjectArray.GetObjectArrayCapacity()), nullptr);
 }
+
+TEST_F(ObjectHashTest, RegisteredClassVersionNumbersChangeWithEveryClassRegisteredOrDestroyed)
+{
+	const uint64 ClassesBefore = GetRegisteredClassesVersionNumber();
+	const uint64 NativeBefore = GetRegisteredNativeClassesVersionNumber();
+	NewObject<UObject>(Package, TEXT("NotAClass"));
+	EXPECT_EQ(GetRegisteredClassesVersionNumber(), ClassesBefore);
+
+	UClass* Transient = NewObject<UClass>(Package, TEXT("HashTransientClass"));
+	Transient->SetSuperStruct(UObject::StaticClass());
+	const uint64 ClassesAfterCreation = GetRegisteredClassesVersionNumber();
+	EXPECT_NE(ClassesAfterCreation, ClassesBefore);
+	EXPECT_EQ(GetRegisteredNativeClassesVersionNumber(), NativeBefore);
+
+	CollectGarbage(RF_NoFlags);
+	EXPECT_NE(GetRegisteredClassesVersionNumber(), ClassesAfterCreation);
+	EXPECT_EQ(GetRegisteredNativeClassesVersionNumber(), NativeBefore);
+
+	UE::CoreUObject::StandIn::FNativeClassParams Params;
+	Params.Name = TEXT("UHashLateNativeClass");
+	Params.ModuleName = TEXT("ObjectHashTests");
+	Params.SuperClass = &UObject::StaticClass;
+	UClass* Native = nullptr;
+	UE::CoreUObject::StandIn::ConstructNativeClass(Native, Params);
+	EXPECT_NE(GetRegisteredNativeClassesVersionNumber(), NativeBefore);
+}

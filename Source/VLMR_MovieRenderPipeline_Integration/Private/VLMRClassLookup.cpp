@@ -1,29 +1,39 @@
 #include "VLMRClassLookup.h"
 
 #include "UObject/Class.h"
-#include "UObject/UObjectHash.h"
+#include "VLMRClassLookupCache.h"
 
 namespace VLMR
 {
-	TArray<UObject*> EnumerateClasses()
+	// The first candidate, in order, whose name passes the test and whose class is still alive.
+	template<typename TNameTest>
+	static UClass* FindFirstCandidate(const TArray<FClassCandidate>& Candidates, TNameTest NameTest)
 	{
-		TArray<UObject*> Classes;
-		GetObjectsOfClass(UClass::StaticClass(), Classes, true, RF_ClassDefaultObject, UE::GetAsyncLoadingInternalFlagsExclusion());
-		return Classes;
+		for (const FClassCandidate& Candidate : Candidates)
+		{
+			if (NameTest(Candidate.Name))
+			{
+				if (UClass* Class = Candidate.Class.Get(true))
+				{
+					return Class;
+				}
+			}
+		}
+		return nullptr;
 	}
 
 	TArray<UClass*> CollectClassesDerivedFrom(const UClass* BaseClass, EClassFlags ExcludedFlags)
 	{
-		TArray<UClass*> Candidates;
-		for (UObject* Object : EnumerateClasses())
+		FClassLookupCache CallCache;
+		TArray<UClass*> Classes;
+		for (const FClassCandidate& Candidate : FClassLookupCache::GetModuleCacheOr(CallCache).GetCandidates(BaseClass, ExcludedFlags))
 		{
-			UClass* Class = static_cast<UClass*>(Object);
-			if (Class->IsChildOf(BaseClass) && !Class->HasAnyClassFlags(ExcludedFlags))
+			if (UClass* Class = Candidate.Class.Get(true))
 			{
-				Candidates.Add(Class);
+				Classes.Add(Class);
 			}
 		}
-		return Candidates;
+		return Classes;
 	}
 
 	UClass* ResolveClassByScriptName(const FString& Name, const UClass* BaseClass, EClassFlags ExcludedFlags)
@@ -31,23 +41,16 @@ namespace VLMR
 		const FString Prefixed = Name.StartsWith(TEXT("U"), ESearchCase::IgnoreCase) ? Name : TEXT("U") + Name;
 		const FString Unprefixed = Prefixed.RightChop(1);
 
-		// Both passes walk the same enumeration: nothing changes the classes in between.
-		const TArray<UClass*> Candidates = CollectClassesDerivedFrom(BaseClass, ExcludedFlags);
-		for (UClass* Class : Candidates)
+		// Both passes walk the same candidates: nothing changes the classes in between.
+		FClassLookupCache CallCache;
+		const TArray<FClassCandidate>& Candidates = FClassLookupCache::GetModuleCacheOr(CallCache).GetCandidates(BaseClass, ExcludedFlags);
+		UClass* Exact = FindFirstCandidate(Candidates, [&](const FString& ClassName)
 		{
-			const FString ClassName = Class->GetName();
-			if (ClassName.Equals(Prefixed, ESearchCase::IgnoreCase) || ClassName.Equals(Unprefixed, ESearchCase::IgnoreCase))
-			{
-				return Class;
-			}
-		}
-		for (UClass* Class : Candidates)
+			return ClassName.Equals(Prefixed, ESearchCase::IgnoreCase) || ClassName.Equals(Unprefixed, ESearchCase::IgnoreCase);
+		});
+		return Exact ? Exact : FindFirstCandidate(Candidates, [&](const FString& ClassName)
 		{
-			if (Class->GetName().Contains(Unprefixed, ESearchCase::IgnoreCase))
-			{
-				return Class;
-			}
-		}
-		return nullptr;
+			return ClassName.Contains(Unprefixed, ESearchCase::IgnoreCase);
+		});
 	}
 }

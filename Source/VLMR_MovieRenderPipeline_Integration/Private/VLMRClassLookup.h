@@ -8,10 +8,8 @@ class UClass;
 
 namespace VLMR
 {
-	// Every class in memory, in the engine's enumeration order.
-	TArray<UObject*> EnumerateClasses();
-
-	// The children of BaseClass (itself included) that carry none of ExcludedFlags, in enumeration order.
+	// The children of BaseClass (itself included) that carry none of ExcludedFlags, in the engine's enumeration order.
+	// Answered from the module's cache of classes, which follows every class registered or removed.
 	TArray<UClass*> CollectClassesDerivedFrom(const UClass* BaseClass, EClassFlags ExcludedFlags);
 
 	// A script's class name to a child of BaseClass that carries none of ExcludedFlags: a missing "U" is added, then the

@@ -4,6 +4,7 @@
 #include "Modules/ModuleManager.h"
 #include "VelmireExtensionRegistrar.h"
 #include "VLMRBindings.h"
+#include "VLMRClassLookupCache.h"
 
 namespace VLMR
 {
@@ -94,6 +95,7 @@ class FVLMRMovieRenderPipelineIntegrationModule : public IModuleInterface
 public:
 	virtual void StartupModule() override
 	{
+		VLMR::FClassLookupCache::SetModuleCache(&ClassLookupCache);
 		FVelmireExtensionRegistrar& Registrar = FVelmireExtensionRegistrar::Get();
 		Registrar.RegisterExtension(VLMR::MakeExtensionDescriptor());
 		Registrar.RegisterLuaBinding(VLMR::ExtensionId, VLMR::QueueBindingName, VLMR::GetMovieRenderQueueDocs(),
@@ -105,7 +107,13 @@ public:
 	virtual void ShutdownModule() override
 	{
 		FVelmireExtensionRegistrar::Get().UnregisterAllForExtension(VLMR::ExtensionId);
+		VLMR::FClassLookupCache::SetModuleCache(nullptr);
+		ClassLookupCache.Reset();
 	}
+
+private:
+	// Lives and dies with the module, so nothing of it outlasts an unload.
+	VLMR::FClassLookupCache ClassLookupCache;
 };
 
 IMPLEMENT_MODULE(FVLMRMovieRenderPipelineIntegrationModule, VLMR_MovieRenderPipeline_Integration)

@@ -2,6 +2,7 @@
 
 #include "UObject/Class.h"
 #include "UObject/Object.h"
+#include "UObject/UObjectHash.h"
 
 #include <unordered_map>
 
@@ -74,6 +75,9 @@ namespace UE::CoreUObject::StandIn::Private
 		std::unordered_map<const UObject*, FObjectList> OuterLists;
 		std::unordered_map<const UClass*, FObjectList> ClassLists;
 		FObjectList AllObjects;
+		// Bumped whenever a class enters or leaves the hash (any class, and native classes only).
+		uint64 RegisteredClassesVersion = 0;
+		uint64 RegisteredNativeClassesVersion = 0;
 	};
 
 	FObjectArrayState& GetState()
@@ -337,6 +341,25 @@ bool FUObjectArray::IsValidIndex(const UObject* Object) const
 	return Object && FindChunk(Object->InternalIndex) != nullptr;
 }
 
+namespace UE::CoreUObject::StandIn::Private
+{
+	// A class entering or leaving the hash changes the registered classes, as the engine's class hierarchy tables do.
+	void NoteClassHashChange(const UObject* Object)
+	{
+		const UClass* ClassOfObject = Object->GetClass();
+		if (!ClassOfObject || !ClassOfObject->HasAnyCastFlag(CASTCLASS_UClass))
+		{
+			return;
+		}
+		FObjectArrayState& State = GetState();
+		++State.RegisteredClassesVersion;
+		if (static_cast<const UClass*>(Object)->HasAnyClassFlags(CLASS_Native))
+		{
+			++State.RegisteredNativeClassesVersion;
+		}
+	}
+}
+
 namespace UE::CoreUObject::StandIn
 {
 	void HashObject(UObject* Object)
@@ -357,6 +380,7 @@ namespace UE::CoreUObject::StandIn
 		LinkInCreationOrder(State.OuterLists[Record.HashedOuter], Index, &FObjectRecord::OuterLinks);
 		LinkInCreationOrder(State.ClassLists[Record.HashedClass], Index, &FObjectRecord::ClassLinks);
 		LinkInCreationOrder(State.AllObjects, Index, &FObjectRecord::AllLinks);
+		NoteClassHashChange(Object);
 	}
 
 	void UnhashObject(UObject* Object)
@@ -380,6 +404,7 @@ namespace UE::CoreUObject::StandIn
 		Record.HashedOuter = nullptr;
 		Record.HashedName = FName();
 		Record.HashedClass = nullptr;
+		NoteClassHashChange(Object);
 	}
 
 	void RehashObjectClass(UObject* Object)
@@ -459,4 +484,14 @@ namespace UE::CoreUObject::StandIn
 	{
 		return GUObjectArray.IsValid(Object) ? RecordAt(GUObjectArray.ObjectToIndex(Object)).CreationOrder : 0;
 	}
+}
+
+uint64 GetRegisteredClassesVersionNumber()
+{
+	return UE::CoreUObject::StandIn::Private::GetState().RegisteredClassesVersion;
+}
+
+uint64 GetRegisteredNativeClassesVersionNumber()
+{
+	return UE::CoreUObject::StandIn::Private::GetState().RegisteredNativeClassesVersion;
 }

@@ -29,6 +29,17 @@ COREUOBJECT_API void ForEachObjectOfClasses(TArrayView<const UClass* const> Clas
 /** Classes whose super class is ClassToLookFor (and, recursively, theirs). */
 COREUOBJECT_API void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive = true);
 
+/**
+ * A number that changes whenever a class, native or not (Blueprint classes included), is registered or unregistered;
+ * store it and compare it later to invalidate a cache of classes.
+ * Stand-in choice: declared in every version 5.5-5.8 and bumped on each class hashed or unhashed (the API reference
+ * pages at hand list only the native counter below).
+ */
+COREUOBJECT_API uint64 GetRegisteredClassesVersionNumber();
+
+/** A number that changes whenever a native class is registered or unregistered; compare it to invalidate a cache of native classes. */
+COREUOBJECT_API uint64 GetRegisteredNativeClassesVersionNumber();
+
 namespace UE
 {
 	/**
