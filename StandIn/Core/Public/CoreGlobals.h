@@ -1,4 +1,4 @@
-// Engine-wide globals: GLog, GError, GWarn, GIsEditor, LogTemp.
+// Engine-wide globals: GLog, GError, GWarn, GIsEditor, GFrameCounter, LogTemp.
 #pragma once
 
 #include "CoreTypes.h"
@@ -17,6 +17,8 @@ extern CORE_API bool GIsEditor;
 extern CORE_API bool GIsRunning;
 extern CORE_API bool GIsAutomationTesting;
 extern CORE_API uint32 GGameThreadId;
+/** The number of frames the engine has ticked. */
+extern CORE_API uint64 GFrameCounter;
 
 /** Whether the caller runs on the thread that loaded the engine (the game thread). */
 CORE_API bool IsInGameThread();

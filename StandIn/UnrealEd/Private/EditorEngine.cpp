@@ -82,6 +82,8 @@ UTransactor* UEditorEngine::CreateTransBuffer()
 
 void UEditorEngine::Tick(float DeltaSeconds, bool bIdleMode)
 {
+	// Stand-in choice: the editor tick is the frame, so it advances GFrameCounter as the engine's main loop does.
+	++GFrameCounter;
 	UE::CoreUObject::StandIn::CollectGarbageForStress();
 	// Stand-in choice: the editor tick also ticks the core ticker, which the engine's main loop ticks just before it.
 	FTSTicker::GetCoreTicker().Tick(DeltaSeconds);

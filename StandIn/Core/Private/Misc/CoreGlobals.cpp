@@ -41,6 +41,7 @@ FOutputDeviceRedirector* GLog = FOutputDeviceRedirector::Get();
 FOutputDevice* GError = GetErrorDevice();
 FFeedbackContext* GWarn = GetWarnDevice();
 bool GIsEditor = true;
+uint64 GFrameCounter = 0;
 bool GIsRunning = true;
 bool GIsAutomationTesting = false;
 // Stand-in choice: the game thread is the thread that loads the engine (the process's main thread).

@@ -1,5 +1,18 @@
 #include "Misc/OutputDevice.h"
 
+#include "CoreGlobals.h"
+#include "Misc/DateTime.h"
+
+namespace
+{
+	/** "[YYYY.MM.DD-HH.MM.SS:mmm][frame]", the frame being GFrameCounter modulo 1000, right-aligned in three columns. */
+	FString FormatTimePrefix(ELogTimes::Type LogTime)
+	{
+		const FDateTime Time = LogTime == ELogTimes::Local ? FDateTime::Now() : FDateTime::UtcNow();
+		return FString::Printf(TEXT("[%s][%3llu]"), *Time.ToString(TEXT("%Y.%m.%d-%H.%M.%S:%s")), (unsigned long long)(GFrameCounter % 1000));
+	}
+}
+
 void FOutputDevice::Log(ELogVerbosity::Type Verbosity, const TCHAR* S)
 {
 	Serialize(S, Verbosity, NAME_None);
@@ -25,9 +38,13 @@ void FOutputDevice::Log(const FName& Category, ELogVerbosity::Type Verbosity, co
 	Serialize(*S, Verbosity, Category);
 }
 
-FString FOutputDeviceHelper::FormatLogLine(ELogVerbosity::Type Verbosity, const FName& Category, const TCHAR* Message)
+FString FOutputDeviceHelper::FormatLogLine(ELogVerbosity::Type Verbosity, const FName& Category, const TCHAR* Message, ELogTimes::Type LogTime)
 {
 	FString Line;
+	if (LogTime != ELogTimes::None)
+	{
+		Line += FormatTimePrefix(LogTime);
+	}
 	if (!Category.IsNone())
 	{
 		Line += Category.ToString();

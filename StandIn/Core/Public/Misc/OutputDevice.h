@@ -6,6 +6,21 @@
 #include "Logging/LogVerbosity.h"
 #include "UObject/NameTypes.h"
 
+/** How a log line's time prefix is written. */
+namespace ELogTimes
+{
+	// Stand-in choice: only the formats the stand-in writes are modelled: none, UTC and local time.
+	enum Type
+	{
+		/** No time prefix. */
+		None,
+		/** "[YYYY.MM.DD-HH.MM.SS:mmm][frame]" in UTC. */
+		UTC,
+		/** "[YYYY.MM.DD-HH.MM.SS:mmm][frame]" in local time. */
+		Local,
+	};
+}
+
 class FOutputDevice
 {
 public:
@@ -64,6 +79,10 @@ protected:
 
 struct FOutputDeviceHelper
 {
-	/** "<Category>: <Verbosity>: <Message>", with the verbosity left out for Log lines and the category for NAME_None. */
-	CORE_API static FString FormatLogLine(ELogVerbosity::Type Verbosity, const FName& Category, const TCHAR* Message = nullptr);
+	/**
+	 * "<Category>: <Verbosity>: <Message>", with the verbosity left out for Log lines and the category for NAME_None,
+	 * after the date, time and frame prefix that LogTime asks for.
+	 * Stand-in choice: LogTime defaults to ELogTimes::None, and the prefix is taken from the clock when the line is formatted.
+	 */
+	CORE_API static FString FormatLogLine(ELogVerbosity::Type Verbosity, const FName& Category, const TCHAR* Message = nullptr, ELogTimes::Type LogTime = ELogTimes::None);
 };
