@@ -2,6 +2,7 @@
 #   cmake -DVLMR=<program> -DARGUMENTS=<arguments separated by |> -DEXPECTED_EXIT=<code>
 #         [-DEXPECTED_STDERR=<regex>] [-DEXPECTED_STDOUT=<regex>] [-DSCRIPT=<scenario>]
 #         [-DREMOVE_BEFORE=<folder>] [-DEXPECTED_FILE=<file that must exist afterwards>]
+#         [-DEXPECTED_FILE_CONTENT=<regex the whole content of EXPECTED_FILE must match>]
 #         [-DTEMPORARY_DIR=<folder, made empty and given as TMPDIR, that must be empty afterwards>] -P ExpectRun.cmake
 # A scenario may give its expectations in its first lines: "-- expect-error: <regex>" and "-- expect-output: <regex>".
 if(SCRIPT)
@@ -48,4 +49,10 @@ if(TEMPORARY_DIR)
 endif()
 if(DEFINED EXPECTED_FILE AND NOT EXISTS "${EXPECTED_FILE}")
 	message(FATAL_ERROR "${EXPECTED_FILE} was not written")
+endif()
+if(DEFINED EXPECTED_FILE_CONTENT)
+	file(READ "${EXPECTED_FILE}" Content)
+	if(NOT Content MATCHES "${EXPECTED_FILE_CONTENT}")
+		message(FATAL_ERROR "${EXPECTED_FILE} does not match '${EXPECTED_FILE_CONTENT}':\n${Content}")
+	endif()
 endif()

@@ -83,8 +83,8 @@ TEST(CoreLogging, OutputDevicesAndVerbosityNames)
 	EXPECT_STREQ(ToString(ELogVerbosity::Display), TEXT("Display"));
 	EXPECT_EQ(ParseLogVerbosityFromString(TEXT("warning")), ELogVerbosity::Warning);
 	EXPECT_EQ(ParseLogVerbosityFromString(TEXT("bogus")), ELogVerbosity::NoLogging);
-	EXPECT_TRUE(FOutputDeviceRedirector::ShouldPrintToConsole(ELogVerbosity::Display));
-	EXPECT_FALSE(FOutputDeviceRedirector::ShouldPrintToConsole(ELogVerbosity::Verbose));
+	EXPECT_TRUE(GLog->ShouldPrintToConsole(ELogVerbosity::Display));
+	EXPECT_FALSE(GLog->ShouldPrintToConsole(ELogVerbosity::Log));
 	EXPECT_TRUE(GIsEditor);
 	EXPECT_TRUE(IsInGameThread());
 }

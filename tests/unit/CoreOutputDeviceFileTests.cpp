@@ -2,6 +2,7 @@
 #include "Misc/DateTime.h"
 #include "Misc/FileHelper.h"
 #include "Misc/OutputDeviceFile.h"
+#include "Misc/OutputDeviceRedirector.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -40,4 +41,17 @@ TEST(CoreOutputDeviceFile, ReplacesTheFileAndPrefixesEveryLineWithUtcTimeAndFram
 		"\\[" + Date + "-[0-9]{2}\\.[0-9]{2}\\.[0-9]{2}:[0-9]{3}\\]\\[ 42\\]plain\n");
 	EXPECT_TRUE(std::regex_match(Content, Expected)) << Content;
 	std::filesystem::remove_all(Root);
+}
+
+TEST(CoreLogging, ConsoleShowsTheLinesUpToItsVerbosity)
+{
+	const ELogVerbosity::Type Before = GLog->GetConsoleVerbosity();
+	GLog->SetConsoleVerbosity(ELogVerbosity::Error);
+	EXPECT_TRUE(GLog->ShouldPrintToConsole(ELogVerbosity::Fatal));
+	EXPECT_TRUE(GLog->ShouldPrintToConsole(ELogVerbosity::Error));
+	EXPECT_FALSE(GLog->ShouldPrintToConsole(ELogVerbosity::Warning));
+	GLog->SetConsoleVerbosity(ELogVerbosity::All);
+	EXPECT_TRUE(GLog->ShouldPrintToConsole(ELogVerbosity::VeryVerbose));
+	EXPECT_FALSE(GLog->ShouldPrintToConsole(ELogVerbosity::NoLogging));
+	GLog->SetConsoleVerbosity(Before);
 }

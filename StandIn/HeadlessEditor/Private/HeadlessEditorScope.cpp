@@ -1,6 +1,8 @@
 #include "HeadlessEditorScope.h"
 
 #include "Editor/StandInEditorStartup.h"
+#include "Misc/OutputDeviceFile.h"
+#include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "ProjectFolder.h"
@@ -24,11 +26,15 @@ namespace UE::Vlmr
 		return TEXT("/Game/Maps/Main");
 	}
 
-	FHeadlessEditorScope::FHeadlessEditorScope(const FString& ProjectDir)
+	FHeadlessEditorScope::FHeadlessEditorScope(const FString& ProjectDir, TOptional<ELogVerbosity::Type> ConsoleVerbosity)
 	{
 		if (!OpenProject(ProjectDir))
 		{
 			return;
+		}
+		if (ConsoleVerbosity.IsSet())
+		{
+			OpenLogFile(FPaths::ProjectDir(), ConsoleVerbosity.GetValue());
 		}
 		if (!UE::UnrealEd::StandIn::StartEditor(GetEditorMapPackageName()))
 		{
@@ -46,7 +52,28 @@ namespace UE::Vlmr
 			FModuleManager::Get().UnloadModulesAtShutdown();
 			UE::UnrealEd::StandIn::StopEditor();
 		}
+		CloseLogFile();
 		TemporaryProject.Reset();
+	}
+
+	void FHeadlessEditorScope::OpenLogFile(const FString& ProjectDir, ELogVerbosity::Type ConsoleVerbosity)
+	{
+		const FString Filename = FPaths::ProjectLogDir() + GetProjectName(ProjectDir) + TEXT(".log");
+		LogFile = MakeUnique<FOutputDeviceFile>(*Filename);
+		GLog->AddOutputDevice(LogFile.Get());
+		ConsoleVerbosityBefore = GLog->GetConsoleVerbosity();
+		GLog->SetConsoleVerbosity(ConsoleVerbosity);
+	}
+
+	void FHeadlessEditorScope::CloseLogFile()
+	{
+		if (!LogFile)
+		{
+			return;
+		}
+		GLog->SetConsoleVerbosity(ConsoleVerbosityBefore);
+		GLog->RemoveOutputDevice(LogFile.Get());
+		LogFile.Reset();
 	}
 
 	bool FHeadlessEditorScope::OpenProject(const FString& ProjectDir)

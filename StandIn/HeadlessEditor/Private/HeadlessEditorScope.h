@@ -2,7 +2,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Optional.h"
 #include "Templates/UniquePtr.h"
+
+class FOutputDeviceFile;
 
 namespace UE::Vlmr
 {
@@ -14,9 +17,10 @@ namespace UE::Vlmr
 	class FHeadlessEditorScope
 	{
 	public:
-		// Opens ProjectDir, or a temporary copy of the sample project when ProjectDir is empty.
-		explicit FHeadlessEditorScope(const FString& ProjectDir = FString());
-		// Shuts the modules down, stops the editor and removes the temporary copy.
+		// Opens ProjectDir, or a temporary copy of the sample project when ProjectDir is empty. With a ConsoleVerbosity,
+		// the engine log then goes to the project's Saved/Logs/<ProjectName>.log, and stderr keeps only the lines up to it.
+		explicit FHeadlessEditorScope(const FString& ProjectDir = FString(), TOptional<ELogVerbosity::Type> ConsoleVerbosity = TOptional<ELogVerbosity::Type>());
+		// Shuts the modules down, stops the editor, closes the log file and removes the temporary copy.
 		~FHeadlessEditorScope();
 
 		FHeadlessEditorScope(const FHeadlessEditorScope&) = delete;
@@ -27,8 +31,12 @@ namespace UE::Vlmr
 
 	private:
 		bool OpenProject(const FString& ProjectDir);
+		void OpenLogFile(const FString& ProjectDir, ELogVerbosity::Type ConsoleVerbosity);
+		void CloseLogFile();
 
 		TUniquePtr<FTemporaryProjectCopy> TemporaryProject;
+		TUniquePtr<FOutputDeviceFile> LogFile;
+		ELogVerbosity::Type ConsoleVerbosityBefore = ELogVerbosity::Display;
 		bool bEditorStarted = false;
 		FString Error;
 	};

@@ -62,15 +62,20 @@ namespace UE::Vlmr
 
 	bool IsProjectFolder(const FString& Dir)
 	{
+		return !GetProjectName(Dir).IsEmpty();
+	}
+
+	FString GetProjectName(const FString& Dir)
+	{
 		std::error_code ErrorCode;
 		for (std::filesystem::directory_iterator It(ToPath(Dir), ErrorCode), End; !ErrorCode && It != End; It.increment(ErrorCode))
 		{
 			if (It->path().extension() == ".uproject" && It->is_regular_file(ErrorCode))
 			{
-				return true;
+				return ToFString(It->path().stem());
 			}
 		}
-		return false;
+		return FString();
 	}
 
 	bool IsMissingOrEmptyFolder(const FString& Dir)

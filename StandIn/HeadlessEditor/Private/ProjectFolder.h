@@ -14,6 +14,9 @@ namespace UE::Vlmr
 	// A project folder is a folder that holds a project descriptor, a file named *.uproject, directly.
 	bool IsProjectFolder(const FString& Dir);
 
+	// The name of the project in Dir: its descriptor's file name without ".uproject"; empty when Dir holds none.
+	FString GetProjectName(const FString& Dir);
+
 	// True when the folder does not exist or holds nothing.
 	bool IsMissingOrEmptyFolder(const FString& Dir);
 

@@ -19,6 +19,8 @@ namespace UE::Vlmr
 			FString ProjectDir;
 			// Skips waiting, after the scripts, for the render they started.
 			bool bNoWait = false;
+			// Shows every engine log line on stderr too, not only errors.
+			bool bVerbose = false;
 			TArray<FString> Scripts;
 		};
 
@@ -34,6 +36,10 @@ namespace UE::Vlmr
 				else if (Argument.Equals(TEXT("--no-wait"), ESearchCase::CaseSensitive))
 				{
 					OutOptions.bNoWait = true;
+				}
+				else if (Argument.Equals(TEXT("--verbose"), ESearchCase::CaseSensitive))
+				{
+					OutOptions.bVerbose = true;
 				}
 				else if (Argument.StartsWith(TEXT("--")))
 				{
@@ -120,7 +126,7 @@ namespace UE::Vlmr
 			WriteLine(stderr, FString::Printf(TEXT("error: --project %s is not a project folder (a folder holding a .uproject file)"), *Options.ProjectDir));
 			return ExitUsage;
 		}
-		FHeadlessEditorScope Editor(Options.ProjectDir);
+		FHeadlessEditorScope Editor(Options.ProjectDir, Options.bVerbose ? ELogVerbosity::All : ELogVerbosity::Error);
 		if (!Editor.IsRunning())
 		{
 			WriteLine(stderr, TEXT("error: ") + Editor.GetError());

@@ -27,10 +27,12 @@ namespace UE::Vlmr
 	void PrintUsage()
 	{
 		WriteLine(stderr, TEXT("usage: vlmr <command> [arguments]"));
-		WriteLine(stderr, TEXT("  run [--project DIR] [--no-wait] SCRIPT.lua...  run Lua scripts in one session of the editor"));
-		WriteLine(stderr, TEXT("  test [FILTER]                                  run the automation tests whose names start with FILTER"));
-		WriteLine(stderr, TEXT("  docs [--luals]                                 print the Lua bindings' documentation (Markdown or LuaLS)"));
-		WriteLine(stderr, TEXT("  new-project DIR                                write the sample project to DIR"));
+		WriteLine(stderr, TEXT("  run [--project DIR] [--no-wait] [--verbose] SCRIPT.lua...  run Lua scripts in one session of the editor;"));
+		WriteLine(stderr, TEXT("                                                            the engine log goes to the project's Saved/Logs/<Name>.log,"));
+		WriteLine(stderr, TEXT("                                                            its errors (with --verbose every line) to stderr too"));
+		WriteLine(stderr, TEXT("  test [FILTER]                                             run the automation tests whose names start with FILTER"));
+		WriteLine(stderr, TEXT("  docs [--luals]                                            print the Lua bindings' documentation (Markdown or LuaLS)"));
+		WriteLine(stderr, TEXT("  new-project DIR                                           write the sample project to DIR"));
 	}
 
 	int32 RunMain(int ArgumentCount, char** Arguments)

@@ -3,17 +3,9 @@
 #include "Containers/StringConv.h"
 
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
 
 namespace
 {
-	bool IsVerboseConsoleRequested()
-	{
-		const char* Value = std::getenv("VLMR_VERBOSE_LOG");
-		return Value && std::strcmp(Value, "1") == 0;
-	}
-
 	void WriteLineToStdErr(const TCHAR* Data, ELogVerbosity::Type Verbosity, const FName& Category)
 	{
 		const FString Line = FOutputDeviceHelper::FormatLogLine(Verbosity, Category, Data);
@@ -54,11 +46,20 @@ bool FOutputDeviceRedirector::IsRedirectingTo(FOutputDevice* OutputDevice)
 	return OutputDevices.Contains(OutputDevice);
 }
 
-bool FOutputDeviceRedirector::ShouldPrintToConsole(ELogVerbosity::Type Verbosity)
+bool FOutputDeviceRedirector::ShouldPrintToConsole(ELogVerbosity::Type Verbosity) const
 {
-	static const bool bVerbose = IsVerboseConsoleRequested();
 	const ELogVerbosity::Type Level = (ELogVerbosity::Type)(Verbosity & ELogVerbosity::VerbosityMask);
-	return Level != ELogVerbosity::NoLogging && (Level <= ELogVerbosity::Display || (bVerbose && Level == ELogVerbosity::Log));
+	return Level != ELogVerbosity::NoLogging && Level <= ConsoleVerbosity.load();
+}
+
+void FOutputDeviceRedirector::SetConsoleVerbosity(ELogVerbosity::Type InConsoleVerbosity)
+{
+	ConsoleVerbosity.store(InConsoleVerbosity);
+}
+
+ELogVerbosity::Type FOutputDeviceRedirector::GetConsoleVerbosity() const
+{
+	return ConsoleVerbosity.load();
 }
 
 void FOutputDeviceRedirector::Serialize(const TCHAR* Data, ELogVerbosity::Type Verbosity, const FName& Category)

@@ -5,11 +5,12 @@
 #include "Containers/Array.h"
 #include "Misc/OutputDevice.h"
 
+#include <atomic>
 #include <mutex>
 
 /**
- * Stand-in choice: besides the devices added by AddOutputDevice, GLog always writes Display, Warning, Error and
- * Fatal lines to stderr (Log lines too when the environment variable VLMR_VERBOSE_LOG is 1), as the editor's console does.
+ * Stand-in choice: besides the devices added by AddOutputDevice, GLog writes the lines up to its console verbosity to
+ * stderr, as the editor's console does: Display and above until the host sets another with SetConsoleVerbosity.
  */
 class FOutputDeviceRedirector final : public FOutputDevice
 {
@@ -29,9 +30,13 @@ public:
 	virtual bool CanBeUsedOnMultipleThreads() const override { return true; }
 
 	/** Whether the console (stderr) receives lines of this verbosity. */
-	CORE_API static bool ShouldPrintToConsole(ELogVerbosity::Type Verbosity);
+	CORE_API bool ShouldPrintToConsole(ELogVerbosity::Type Verbosity) const;
+	/** The most verbose level the console (stderr) receives; ELogVerbosity::All for every line. */
+	CORE_API void SetConsoleVerbosity(ELogVerbosity::Type InConsoleVerbosity);
+	CORE_API ELogVerbosity::Type GetConsoleVerbosity() const;
 
 private:
 	std::recursive_mutex Mutex;
+	std::atomic<ELogVerbosity::Type> ConsoleVerbosity{ELogVerbosity::Display};
 	TArray<FOutputDevice*> OutputDevices;
 };
