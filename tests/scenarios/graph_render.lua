@@ -101,6 +101,7 @@ local states, first_shot_states, sub_samples, warm_ups = {}, {}, {}, {}
 local frames_rising, first_shot_index, progress_matches = true, {}, true
 local last_frame, seen_active, shared_graph_table = -1, nil, true
 local executor_progress, executor_progress_rising = 0, true
+local first_rendering
 for _ = 1, 200 do
 	editor.tick(1)
 	local status = mrg_pipeline_status()
@@ -118,6 +119,7 @@ for _ = 1, 200 do
 			if status.segments.state == "WarmingUp" then
 				warm_ups[#warm_ups + 1] = metrics.warm_up_frame_index .. "/" .. metrics.total_warm_up_frames
 			elseif status.segments.state == "Rendering" then
+				first_rendering = first_rendering or status
 				sub_samples[#sub_samples + 1] = metrics.sub_sample_index .. "/" .. metrics.total_sub_samples
 			end
 		end
@@ -156,7 +158,12 @@ check.matches(first.initialization_time, "^%d%d%d%d%-%d%d%-%d%dT%d%d:%d%d:%d%d%.
 check.matches(first.job, "^/Engine/Transient%.", "the pipeline renders its own copy of the job")
 check.eq({ first.shot.outer_name, first.shot.inner_name, first.shot.enabled }, { "sh010", "Cam_A", true }, "current shot")
 check.eq({ first.segments.outer, first.segments.inner, first.work_metrics.segment_name ~= nil }, { "sh010", "Cam_A", true }, "segment name")
-check.eq(type(first.camera.focal_length), "number", "camera values")
+-- Before the first shot starts there is no camera; once it renders, its cine camera is the current one.
+check.eq(first.camera, { focal_length = -1.0, focus_distance = -1.0, aperture = 0.0 }, "no camera before the first shot")
+local camera = first_rendering.camera
+check.eq({ camera.focal_length, camera.focus_distance }, { 35.0, 100000.0 }, "the shot camera's lens")
+check.truthy(math.abs(camera.aperture - 2.8) < 1e-6, "the shot camera's aperture")
+check.matches(camera.component, "%.Cam_A$", "the current cine camera is the first shot's")
 check.matches(first.root_timecode, "^%d%d:%d%d:%d%d[:;]%d%d$", "root timecode")
 check.eq(math.type(first.root_frame), "integer", "root frame")
 
