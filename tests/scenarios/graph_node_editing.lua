@@ -128,4 +128,26 @@ else
 		editor.engine_version():match("^%d+%.%d+")), "insert_before refused")
 end
 
+-- Soft paths: a short package name never reaches the engine, which would ensure and store None instead.
+editor.create_graph("/Game/Graphs/Paths")
+local paths = mrq_open_graph("Graphs/Paths")
+editor.add_typed_variable("/Game/Graphs/Paths", "Asset", "SoftObject")
+editor.add_typed_variable("/Game/Graphs/Paths", "Kind", "SoftClass")
+local function set_path(name, value)
+	local result = paths:set_variable(name, value)
+	return result == true and paths:get_variable(name).value or result.error
+end
+check.eq({ set_path("Asset", "/Game/Shots/Hero.Hero"), set_path("Asset", "Hero"), set_path("Kind", "Game.Hero"), set_path("Kind", "None") }, {
+	"/Game/Shots/Hero.Hero",
+	"cannot set 'Asset': 'Hero' is not a path the engine can store; a path starts at a mount point such as /Game/",
+	"cannot set 'Kind': 'Game.Hero' is not a path the engine can store; a path starts at a mount point such as /Game/",
+	"None",
+}, "soft path variables")
+check.eq(paths:get_variable("Asset").value, "/Game/Shots/Hero.Hero", "a refused path keeps the old one")
+local overrides = paths:add_node("GlobalGameOverrides")
+check.eq(paths:set_node_property(overrides.id, "SoftGameModeOverride", "HeroMode").error,
+	"cannot set SoftGameModeOverride: 'HeroMode' is not a path the engine can store; a path starts at a mount point such as /Game/", "soft path property")
+check.eq(paths:get_node_property(overrides.id, "bOverride_SoftGameModeOverride"), "False", "a refused soft path switches no flag")
+check.eq(paths:set_node_property(overrides.id, "SoftGameModeOverride", "/Game/Modes/Hero.Hero_C"), true, "a full path is stored")
+
 check.summary()

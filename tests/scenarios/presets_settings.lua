@@ -75,6 +75,16 @@ check.eq(editor.log()[1], "[OK] set SpatialSampleCount = 8", "set line")
 check.eq(editor.log()[2], "[FAIL] set -> property 'NoSuchProperty' not found", "missing property line")
 check.matches(editor.log()[3], "^%[FAIL%] set %-> failed to set 'SpatialSampleCount' = 'many' %(.+%)$", "refused value line")
 
+-- A soft path with a short package name is refused before the engine sees it; the old path stays.
+local burn_in = config:find_or_add_setting("BurnIn")
+local default_burn_in = burn_in:get("BurnInClass")
+editor.clear_log()
+burn_in:set("BurnInClass", "HeroBurnIn")
+check.eq(editor.log()[1], "[FAIL] set -> failed to set 'BurnInClass' = 'HeroBurnIn' ('HeroBurnIn' is not a path the engine can store; a path starts at a mount point such as /Game/)", "short soft path")
+check.eq(burn_in:get("BurnInClass"), default_burn_in, "the old path stays")
+burn_in:set("BurnInClass", "/Game/Overlays/Hero.Hero_C")
+check.eq(burn_in:get("BurnInClass"), "/Game/Overlays/Hero.Hero_C", "a full path is stored")
+
 local properties = {}
 for _, row in ipairs(aa:list_properties()) do
 	properties[row.name] = row

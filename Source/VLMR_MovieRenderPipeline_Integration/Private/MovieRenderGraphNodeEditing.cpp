@@ -10,6 +10,7 @@
 #include "VelLuaProperty.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
+#include "VLMRSoftPathText.h"
 #include "VLMRVersionGates.h"
 
 #include <cmath>
@@ -91,7 +92,16 @@ namespace VLMR
 		if (Value.get_type() == sol::type::string)
 		{
 			FString Text;
-			return ReadTextValue(Value, Text, OutError) && Staged.ImportText(Text, &Node, OutError);
+			if (!ReadTextValue(Value, Text, OutError))
+			{
+				return false;
+			}
+			if (ImportsAsSoftPath(*Staged.GetProperty()) && !IsStorableSoftPath(Text))
+			{
+				OutError = UnstorableSoftPathMessage(Text);
+				return false;
+			}
+			return Staged.ImportText(Text, &Node, OutError);
 		}
 		return Staged.Apply(Value, OutError);
 	}
@@ -307,6 +317,11 @@ namespace VLMR
 		if ((IsIntegralType(Type) || IsFloatingType(Type)) && !Text.IsNumeric())
 		{
 			OutError = FString::Printf(TEXT("variable type is %s, string '%s' is not numeric"), *TypeName, *Text);
+			return false;
+		}
+		if ((Type == EMovieGraphValueType::SoftObject || Type == EMovieGraphValueType::SoftClass) && !IsStorableSoftPath(Text))
+		{
+			OutError = UnstorableSoftPathMessage(Text);
 			return false;
 		}
 		OutText = Text;

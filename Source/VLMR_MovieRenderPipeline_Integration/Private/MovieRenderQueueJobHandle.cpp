@@ -13,6 +13,7 @@
 #include "VLMRBindings.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
+#include "VLMRSoftPathText.h"
 
 namespace VLMR
 {
@@ -105,26 +106,12 @@ namespace VLMR
 		return NoValue();
 	}
 
-	// Whether the engine stores the text as a soft path without an ensure: no short package name, and no object part
-	// unless the path starts at a mount point.
-	static bool IsStorableSoftPath(const FString& Text)
-	{
-		if (Text.IsEmpty() || Text == TEXT("None"))
-		{
-			return true;
-		}
-		const FString Path = Text.StartsWith(TEXT("/")) ? Text : FPackageName::ExportTextPathToObjectPath(Text);
-		int32 Separator = INDEX_NONE;
-		const bool bNamesObject = Path.FindChar(TEXT('.'), Separator) || Path.FindChar(TEXT(':'), Separator);
-		return !FPackageName::IsShortPackageName(Path) && (Path.StartsWith(TEXT("/")) || !bNamesObject);
-	}
-
 	static bool CheckStorableSoftPath(FLuaSessionData& Session, const TCHAR* Label, const FString& Path)
 	{
 		const bool bStorable = IsStorableSoftPath(Path);
 		if (!bStorable)
 		{
-			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("'%s' is not a path the engine can store; a path starts at a mount point such as /Game/"), *Path));
+			LogLine(Session, ELineKind::Fail, Label, UnstorableSoftPathMessage(Path));
 		}
 		return bStorable;
 	}

@@ -9,6 +9,7 @@
 #include "VelLuaProperty.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
+#include "VLMRSoftPathText.h"
 
 #include <cmath>
 #include <limits>
@@ -97,6 +98,11 @@ namespace VLMR
 		}
 		if (HoldsEngineName(Property) && !CheckEngineNameLength(Session, Label, Value))
 		{
+			return;
+		}
+		if (ImportsAsSoftPath(*Property) && !IsStorableSoftPath(Value))
+		{
+			LogLine(Session, ELineKind::Fail, Label, FString::Printf(TEXT("failed to set '%s' = '%s' (%s)"), *Name, *Value, *UnstorableSoftPathMessage(Value)));
 			return;
 		}
 
