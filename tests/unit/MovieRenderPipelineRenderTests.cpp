@@ -1,4 +1,5 @@
 #include "PersistenceTestSupport.h"
+#include "ImageDecodeTestSupport.h"
 #include "MovieRenderTestSupport.h"
 
 #include "Editor.h"
@@ -230,6 +231,10 @@ TEST_F(MovieRenderPipelineRenderTest, ATwoJobQueueRendersOneFramePerTickToComple
 	EXPECT_TRUE(EndsWithBytes(Png, { 0, 0, 0, 0, 'I', 'E', 'N', 'D', 0xAE, 0x42, 0x60, 0x82 })) << "IEND with its fixed CRC";
 	ASSERT_GT(Png.Num(), 43);
 	EXPECT_EQ(((Png[41] << 8) | Png[42]) % 31, 0) << "a valid zlib header opens the image data";
+	const UE::ImageDecodeTest::FDecodedImage Decoded = UE::ImageDecodeTest::DecodePng(Png);
+	EXPECT_EQ(Decoded.Width, 8);
+	EXPECT_EQ(Decoded.Height, 8);
+	EXPECT_EQ(Decoded.Channels, 3);
 }
 
 TEST_F(MovieRenderPipelineRenderTest, DisabledAndConsumedJobsAreSkipped)
@@ -478,7 +483,16 @@ TEST_F(MovieRenderPipelineRenderTest, EachImageFormatWritesAValidFileAndAJobWith
 	EXPECT_EQ(ReadLittleEndian32(Bmp, 10), 54u);
 	EXPECT_EQ(ReadLittleEndian32(Bmp, 18), 8u);
 	const TArray<uint8> Exr = ReadFile(RenderDir() + TEXT("Formats.sh010.0000.exr"));
-	EXPECT_TRUE(StartsWithBytes(Exr, { 0x76, 0x2F, 0x31, 0x01, 0x02, 0x00, 0x00, 0x00, 'c', 'h', 'a', 'n', 'n', 'e', 'l', 's', 0, 'c', 'h', 'l', 'i', 's', 't', 0 }));
+	EXPECT_TRUE(StartsWithBytes(Exr, { 0x76, 0x2F, 0x31, 0x01, 0x02, 0x00, 0x00, 0x00 })) << "version 2, a single-part scanline file";
+
+	// Each file reads back, with the libraries that wrote it, as an 8x8 RGB image.
+	const UE::ImageDecodeTest::FDecodedImage Decoded[] = { UE::ImageDecodeTest::DecodeJpeg(Jpg), UE::ImageDecodeTest::DecodeBmp(Bmp), UE::ImageDecodeTest::DecodeExr(Exr) };
+	for (const UE::ImageDecodeTest::FDecodedImage& Image : Decoded)
+	{
+		EXPECT_EQ(Image.Width, 8);
+		EXPECT_EQ(Image.Height, 8);
+		EXPECT_EQ(Image.Channels, 3);
+	}
 }
 
 TEST_F(MovieRenderPipelineRenderTest, DeletingTheJobBeingRenderedFailsThatJobAndRendersTheNext)
