@@ -12,6 +12,7 @@
 #include "MovieRenderGraphEvaluation.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VLMRAssetRoutines.h"
+#include "VLMRLuaStackTable.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptOptions.h"
 #include "VLMRScriptResults.h"
@@ -212,12 +213,12 @@ namespace VLMR
 
 	static sol::table MakeStringMap(sol::state_view Lua, const TMap<FString, FString>& Pairs)
 	{
-		sol::table Table = Lua.create_table(0, Pairs.Num());
+		FLuaStackTable Table(Lua.lua_state(), 0, Pairs.Num());
 		for (const TPair<FString, FString>& Pair : Pairs)
 		{
-			Table[ToUtf8(Pair.Key)] = ToUtf8(Pair.Value);
+			Table.SetText(Pair.Key, Pair.Value);
 		}
-		return Table;
+		return Table.Release();
 	}
 
 	sol::table ResolveFormat(sol::state_view Lua, FLuaSessionData& Session, const FString& Format, const sol::object& Options)

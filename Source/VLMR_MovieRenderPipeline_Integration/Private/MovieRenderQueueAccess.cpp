@@ -169,7 +169,14 @@ namespace VLMR
 
 	FString ToAssetPathString(const FSoftObjectPath& Path)
 	{
-		return Path.IsNull() ? FString() : Path.GetAssetPath().ToString();
+		FString Text;
+		if (!Path.IsNull())
+		{
+			// Room for a usual asset path up front, rather than a reallocation for each part appended.
+			Text.Reserve(128);
+			Path.GetAssetPath().AppendString(Text);
+		}
+		return Text;
 	}
 
 	FString MakeJobIdentity(const UMoviePipelineExecutorJob* Job)

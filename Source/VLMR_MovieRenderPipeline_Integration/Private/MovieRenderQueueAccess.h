@@ -78,6 +78,7 @@ namespace VLMR
 	{
 		const TArray<TStrongObjectPtr<UMoviePipelineExecutorJob>> Jobs = GetHeldJobs(Queue);
 		TArray<decltype(Reader(*Jobs[0], 0))> Rows;
+		Rows.Reserve(Jobs.Num());
 		for (int32 Position = 0; Position < Jobs.Num(); ++Position)
 		{
 			if (Jobs[Position])

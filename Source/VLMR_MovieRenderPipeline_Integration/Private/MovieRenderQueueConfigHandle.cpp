@@ -35,7 +35,7 @@ namespace VLMR
 	static sol::object ConfigListSettings(sol::state_view Lua, const FWeakConfig& WeakConfig, FLuaSessionData& Session)
 	{
 		const FHeldConfig Config = ResolveConfig(WeakConfig, Session, TEXT("config:list_settings"));
-		return Config ? sol::object(MakeSettingRows(Lua, ReadSettingRows(*Config), true)) : Nil(Lua);
+		return Config ? sol::object(MakeSettingRows(Lua, ReadSettingRows(*Config, true))) : Nil(Lua);
 	}
 
 	static sol::object ConfigInfo(sol::state_view Lua, const FWeakConfig& WeakConfig, FLuaSessionData& Session)
@@ -48,13 +48,13 @@ namespace VLMR
 		const FString Path = Config->GetPathName();
 		const FString DisplayName = Config->DisplayName;
 		const int32 SettingCount = Config->GetUserSettings().Num();
-		const TArray<FSettingRow> Rows = ReadSettingRows(*Config);
+		const TArray<FSettingRow> Rows = ReadSettingRows(*Config, false);
 
 		sol::table Info = Lua.create_table();
 		Info["path"] = ToUtf8(Path);
 		Info["display_name"] = ToUtf8(DisplayName);
 		Info["setting_count"] = SettingCount;
-		Info["settings"] = MakeSettingRows(Lua, Rows, false);
+		Info["settings"] = MakeSettingRows(Lua, Rows);
 		return Info;
 	}
 

@@ -3,7 +3,7 @@
 #include "Graph/MovieGraphConfig.h"
 #include "MoviePipelineQueue.h"
 #include "MovieRenderQueueAccess.h"
-#include "VLMRScriptArguments.h"
+#include "VLMRLuaStackTable.h"
 
 namespace VLMR
 {
@@ -22,16 +22,22 @@ namespace VLMR
 		return Fields;
 	}
 
+	void WriteJobFields(FLuaStackTable& Row, const FJobFields& Fields)
+	{
+		Row.SetText("sequence", Fields.Sequence);
+		Row.SetText("map", Fields.Map);
+		Row.SetText("author", Fields.Author);
+		Row.SetText("job_name", Fields.JobName);
+		Row.SetText("comment", Fields.Comment);
+		Row.SetBool("is_enabled", Fields.bIsEnabled);
+		Row.SetBool("is_consumed", Fields.bIsConsumed);
+		Row.SetText("user_data", Fields.UserData);
+		Row.SetBool("is_graph_config", Fields.bIsGraphConfig);
+	}
+
 	void WriteJobFields(sol::table& Row, const FJobFields& Fields)
 	{
-		Row["sequence"] = ToUtf8(Fields.Sequence);
-		Row["map"] = ToUtf8(Fields.Map);
-		Row["author"] = ToUtf8(Fields.Author);
-		Row["job_name"] = ToUtf8(Fields.JobName);
-		Row["comment"] = ToUtf8(Fields.Comment);
-		Row["is_enabled"] = Fields.bIsEnabled;
-		Row["is_consumed"] = Fields.bIsConsumed;
-		Row["user_data"] = ToUtf8(Fields.UserData);
-		Row["is_graph_config"] = Fields.bIsGraphConfig;
+		FLuaStackTable Table(Row);
+		WriteJobFields(Table, Fields);
 	}
 }

@@ -88,7 +88,7 @@ namespace VLMR
 		{
 			return Nil(Lua);
 		}
-		return MakeSettingRows(Lua, ReadSettingRows(*Config), true);
+		return MakeSettingRows(Lua, ReadSettingRows(*Config, true));
 	}
 
 	// A job setter: resolves the job, applies the edit and logs "[OK] <label> -> <text>"; nothing is returned on success.
@@ -223,9 +223,10 @@ namespace VLMR
 			const bool bConsumed = Consumed.Value;
 			return EditJob(L, Job, *S, TEXT("set_consumed"), [bConsumed](FJob& Target) { Target.SetConsumed(bConsumed); return FString(BoolText(bConsumed)); });
 		});
-		Handle.set_function("is_consumed", [Job](sol::this_state L, sol::object) {
+		// Called in tight loops: an optional is pushed directly, with no registry reference made for the result.
+		Handle.set_function("is_consumed", [Job](sol::object) {
 			const FJob* Target = Job.Get();
-			return Target ? sol::make_object(L, Target->IsConsumed()) : Nil(L);
+			return Target ? sol::optional<bool>(Target->IsConsumed()) : sol::optional<bool>();
 		});
 		Handle.set_function("set_sequence", [Job, S](sol::this_state L, sol::object, const FScriptText& Path) {
 			return EditJobPath(L, Job, *S, TEXT("set_sequence"), PrefixGameRoot(Path.Value), &SetSequencePath);

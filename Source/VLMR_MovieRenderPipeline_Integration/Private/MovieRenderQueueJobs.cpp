@@ -12,6 +12,7 @@
 #include "MovieRenderQueueSettings.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VLMRAssetRoutines.h"
+#include "VLMRLuaStackTable.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
 
@@ -91,16 +92,21 @@ namespace VLMR
 		return Queue;
 	}
 
-	// The queue and the job at the index; false after the call's failure line (a null entry counts as out of range).
+	// The queue and the job at the index, only that job held; false after the call's failure line (a null entry counts as
+	// out of range).
 	static bool FindJobAtIndex(FLuaSessionData& Session, const TCHAR* Label, EQueueWording Wording, int64 Index, FIndexedJob& OutJob)
 	{
-		TArray<FHeldJob> Jobs;
-		OutJob.Queue = GetQueueWithJobs(Session, Label, Wording, Jobs);
-		if (!OutJob.Queue || !CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		OutJob.Queue = GetQueueOrReport(Session, Label, Wording);
+		if (!OutJob.Queue)
 		{
 			return false;
 		}
-		OutJob.Job = Jobs[Index - 1];
+		const TArray<UMoviePipelineExecutorJob*> Jobs = OutJob.Queue->GetJobs();
+		if (!CheckJobIndex(Session, Label, TEXT(""), Index, Jobs.Num()))
+		{
+			return false;
+		}
+		OutJob.Job.Reset(Jobs[Index - 1]);
 		if (!OutJob.Job)
 		{
 			ReportJobIndexOutOfRange(Session, Label, TEXT(""), Index, Jobs.Num());
@@ -186,21 +192,23 @@ namespace VLMR
 		if (const UMoviePipelinePrimaryConfig* Config = Job.GetConfiguration())
 		{
 			Row.bHasConfiguration = true;
-			Row.Settings = ReadSettingRows(*Config);
+			Row.Settings = ReadSettingRows(*Config, false);
 		}
 		return Row;
 	}
 
-	static sol::table MakeQueueJobTable(sol::state_view Lua, const FQueueJobRow& Row)
+	static void WriteQueueJobRow(FLuaStackTable& Jobs, const FQueueJobRow& Row)
 	{
-		sol::table Table = Lua.create_table();
-		Table["index"] = Row.Index;
+		FLuaStackTable Table(Jobs.GetState(), 0, JobFieldCount + 2);
+		Table.SetInteger("index", Row.Index);
 		WriteJobFields(Table, Row.Fields);
 		if (Row.bHasConfiguration)
 		{
-			Table["settings"] = MakeSettingRows(Lua, Row.Settings, false);
+			FLuaStackTable Settings(Jobs.GetState(), Row.Settings.Num(), 0);
+			WriteSettingRows(Settings, Row.Settings);
+			Table.SetTable("settings", Settings);
 		}
-		return Table;
+		Jobs.SetTable(Row.Index, Table);
 	}
 
 	sol::object GetQueue(sol::state_view Lua, FLuaSessionData& Session)
@@ -215,12 +223,17 @@ namespace VLMR
 		const int32 Count = Queue->GetJobs().Num();
 		const bool bRendering = IsRenderInProgress(GetQueueSubsystem());
 
-		sol::table Result = Lua.create_table();
-		Result["jobs"] = MakeIndexedTable(Lua, Rows, &MakeQueueJobTable);
-		Result["count"] = Count;
-		Result["is_rendering"] = bRendering;
+		FLuaStackTable Result(Lua.lua_state(), 0, 3);
+		FLuaStackTable Jobs(Lua.lua_state(), Rows.Num(), 0);
+		for (const FQueueJobRow& Row : Rows)
+		{
+			WriteQueueJobRow(Jobs, Row);
+		}
+		Result.SetTable("jobs", Jobs);
+		Result.SetInteger("count", Count);
+		Result.SetBool("is_rendering", bRendering);
 		LogLine(Session, ELineKind::Ok, Label, FString::Printf(TEXT("%d jobs"), Count));
-		return Result;
+		return Result.Release();
 	}
 
 	sol::object GetJob(sol::state_view Lua, FLuaSessionData& Session, int64 Index)

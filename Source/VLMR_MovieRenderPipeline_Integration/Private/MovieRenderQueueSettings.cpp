@@ -5,6 +5,7 @@
 #include "MovieRenderQueueHandles.h"
 #include "UObject/StrongObjectPtr.h"
 #include "VLMRClassLookup.h"
+#include "VLMRLuaStackTable.h"
 #include "VLMRScriptArguments.h"
 #include "VLMRScriptResults.h"
 
@@ -31,34 +32,41 @@ namespace VLMR
 		return Class->GetDisplayNameText().ToString();
 	}
 
-	TArray<FSettingRow> ReadSettingRows(const UMoviePipelinePrimaryConfig& Config)
+	TArray<FSettingRow> ReadSettingRows(const UMoviePipelinePrimaryConfig& Config, bool bWithDisplayName)
 	{
 		TArray<FSettingRow> Rows;
 		for (const UMoviePipelineSetting* Setting : Config.GetUserSettings())
 		{
 			if (Setting)
 			{
-				Rows.Add({ Setting->GetClass()->GetName(), ClassDisplayName(Setting->GetClass()), Setting->IsEnabled() });
+				const UClass* Class = Setting->GetClass();
+				Rows.Add({ Class->GetName(), bWithDisplayName ? TOptional<FString>(ClassDisplayName(Class)) : TOptional<FString>(), Setting->IsEnabled() });
 			}
 		}
 		return Rows;
 	}
 
-	sol::table MakeSettingRows(sol::state_view Lua, const TArray<FSettingRow>& Rows, bool bWithDisplayName)
+	sol::table MakeSettingRows(sol::state_view Lua, const TArray<FSettingRow>& Rows)
 	{
-		sol::table Table = Lua.create_table(Rows.Num(), 0);
-		for (const FSettingRow& Row : Rows)
+		FLuaStackTable Table(Lua.lua_state(), Rows.Num(), 0);
+		WriteSettingRows(Table, Rows);
+		return Table.Release();
+	}
+
+	void WriteSettingRows(FLuaStackTable& Table, const TArray<FSettingRow>& Rows)
+	{
+		for (int32 Index = 0; Index < Rows.Num(); ++Index)
 		{
-			sol::table Entry = Lua.create_table();
-			Entry["name"] = ToUtf8(Row.Name);
-			if (bWithDisplayName)
+			const FSettingRow& Row = Rows[Index];
+			FLuaStackTable Entry(Table.GetState(), 0, 3);
+			Entry.SetText("name", Row.Name);
+			if (Row.DisplayName.IsSet())
 			{
-				Entry["display_name"] = ToUtf8(Row.DisplayName);
+				Entry.SetText("display_name", Row.DisplayName.GetValue());
 			}
-			Entry["is_enabled"] = Row.bIsEnabled;
-			Table.add(Entry);
+			Entry.SetBool("is_enabled", Row.bIsEnabled);
+			Table.SetTable(Index + 1, Entry);
 		}
-		return Table;
 	}
 
 	sol::object FindOrAddSetting(sol::state_view Lua, FLuaSessionData& Session, const FString& Label,

@@ -11,6 +11,8 @@ class UMoviePipelinePrimaryConfig;
 
 namespace VLMR
 {
+	class FLuaStackTable;
+
 	// A script's class name to a concrete setting class: the "U" prefix rule, an exact pass, then a substring pass.
 	UClass* ResolveSettingClass(const FString& Name);
 
@@ -19,19 +21,20 @@ namespace VLMR
 
 	FString ClassDisplayName(const UClass* Class);
 
-	// One listed setting of a configuration, read at one moment.
+	// One listed setting of a configuration, read at one moment; the display name only when the listing shows it.
 	struct FSettingRow
 	{
 		FString Name;
-		FString DisplayName;
+		TOptional<FString> DisplayName;
 		bool bIsEnabled = false;
 	};
 
 	// The configuration's non-null user settings, in its order.
-	TArray<FSettingRow> ReadSettingRows(const UMoviePipelinePrimaryConfig& Config);
+	TArray<FSettingRow> ReadSettingRows(const UMoviePipelinePrimaryConfig& Config, bool bWithDisplayName);
 
-	// {name, display_name?, is_enabled} rows.
-	sol::table MakeSettingRows(sol::state_view Lua, const TArray<FSettingRow>& Rows, bool bWithDisplayName);
+	// {name, display_name (when read), is_enabled} rows, as a new table or at 1..n of an array table being built.
+	sol::table MakeSettingRows(sol::state_view Lua, const TArray<FSettingRow>& Rows);
+	void WriteSettingRows(FLuaStackTable& Table, const TArray<FSettingRow>& Rows);
 
 	// Finds the setting of the class (disabled ones included) or adds one, logs "[OK] <label> -> <class>" and returns its
 	// handle; nil after "could not create setting" when the configuration refuses the class.
