@@ -136,48 +136,80 @@ namespace VLMRBench
 		return Same != Calls.end() ? &Same->second : Calls.size() == 1 ? &Calls.begin()->second : nullptr;
 	}
 
-	void FCostTableReporter::PrintFamily(const FCostFamily& Family, const FFamilyResults& Results)
+	// One line of the table, every column as text.
+	struct FTableRow
+	{
+		std::string Call;
+		std::string Argument;
+		std::string PerCall;
+		std::string PerUnit;
+		std::string Floor;
+		std::string Ratio;
+		std::string Target;
+		std::string Fit;
+		std::string Rms;
+	};
+
+	static std::string FormatTableRow(const FTableRow& Row)
+	{
+		char Line[400];
+		std::snprintf(Line, sizeof(Line), "%-44s %6s %11s %15s  %-30s %7s %-13s %-20s %5s", Row.Call.c_str(), Row.Argument.c_str(),
+			Row.PerCall.c_str(), Row.PerUnit.c_str(), Row.Floor.c_str(), Row.Ratio.c_str(), Row.Target.c_str(), Row.Fit.c_str(), Row.Rms.c_str());
+		return Line;
+	}
+
+	static std::string FormatFixed(const char* Format, double Value)
+	{
+		char Text[32];
+		std::snprintf(Text, sizeof(Text), Format, Value);
+		return Text;
+	}
+
+	void FCostTableReporter::FillFloorColumns(const FCostFamily& Family, int64_t Argument, double SecondsPerCall, FTableRow& OutRow) const
+	{
+		const FCostFamily* FloorFamily = Family.Floor.empty() ? nullptr : FindFamily(Family.Floor);
+		const FMeasuredCall* FloorCall = FloorFamily ? FindFloorCall(Family.Floor, Argument) : nullptr;
+		if (!FloorCall || !FloorCall->Error.empty() || FloorCall->GetSecondsPerCall() <= 0.0)
+		{
+			return;
+		}
+		const double Ratio = SecondsPerCall / FloorCall->GetSecondsPerCall();
+		OutRow.Floor = FloorFamily->Call;
+		OutRow.Ratio = FormatFixed("%.2fx", Ratio);
+		if (Family.TargetRatio > 0.0)
+		{
+			OutRow.Target = FormatFixed("<=%.1fx", Family.TargetRatio) + (Ratio <= Family.TargetRatio ? " met" : " MISSED");
+		}
+	}
+
+	void FCostTableReporter::PrintFamily(const FCostFamily& Family, const FFamilyResults& Results) const
 	{
 		std::ostream& Out = GetOutputStream();
 		bool bFirstRow = true;
 		for (const auto& [Argument, Call] : Results.Calls)
 		{
-			char Line[320];
-			const std::string Fit = bFirstRow && !Results.Complexity.empty()
-				? Results.Complexity + " " + FormatSeconds(Results.CoefficientPerCall) : std::string();
-			char Rms[16] = "";
-			if (bFirstRow && Results.Rms >= 0.0)
+			FTableRow Row;
+			Row.Argument = std::to_string(Argument);
+			if (bFirstRow)
 			{
-				std::snprintf(Rms, sizeof(Rms), "%.0f%%", Results.Rms * 100.0);
+				Row.Call = Family.Call;
+				Row.Fit = Results.Complexity.empty() ? std::string() : Results.Complexity + " " + FormatSeconds(Results.CoefficientPerCall);
+				Row.Rms = Results.Rms >= 0.0 ? FormatFixed("%.0f%%", Results.Rms * 100.0) : std::string();
 			}
+			bFirstRow = false;
 			if (!Call.Error.empty())
 			{
-				std::snprintf(Line, sizeof(Line), "%-44s %6lld  error: %s\n", bFirstRow ? Family.Call.c_str() : "", static_cast<long long>(Argument),
-					Call.Error.c_str());
-				Out << Line;
-				bFirstRow = false;
+				Out << FormatTableRow(Row) << "error: " << Call.Error << "\n";
 				continue;
 			}
-			const std::string PerUnit = !Family.Unit.empty() && Argument > 0
-				? FormatSeconds(Call.GetSecondsPerCall() / static_cast<double>(Argument)) + "/" + Family.Unit : std::string();
-			const FCostFamily* FloorFamily = Family.Floor.empty() ? nullptr : FindFamily(Family.Floor);
-			const FMeasuredCall* FloorCall = FloorFamily ? FindFloorCall(Family.Floor, Argument) : nullptr;
-			char Ratio[32] = "";
-			char Target[32] = "";
-			if (FloorCall && FloorCall->Error.empty() && FloorCall->GetSecondsPerCall() > 0.0)
+			const double SecondsPerCall = Call.GetSecondsPerCall();
+			Row.PerCall = FormatSeconds(SecondsPerCall);
+			if (!Family.Unit.empty() && Argument > 0)
 			{
-				const double Value = Call.GetSecondsPerCall() / FloorCall->GetSecondsPerCall();
-				std::snprintf(Ratio, sizeof(Ratio), "%.2fx", Value);
-				if (Family.TargetRatio > 0.0)
-				{
-					std::snprintf(Target, sizeof(Target), "<=%.1fx %s", Family.TargetRatio, Value <= Family.TargetRatio ? "met" : "MISSED");
-				}
+				Row.PerUnit = FormatSeconds(SecondsPerCall / static_cast<double>(Argument)) + "/" + Family.Unit;
 			}
-			std::snprintf(Line, sizeof(Line), "%-44s %6lld %11s %15s  %-30s %7s %-13s %-20s %5s\n", bFirstRow ? Family.Call.c_str() : "",
-				static_cast<long long>(Argument), FormatSeconds(Call.GetSecondsPerCall()).c_str(), PerUnit.c_str(), FloorFamily ? FloorFamily->Call.c_str() : "", Ratio, Target,
-				Fit.c_str(), Rms);
-			Out << Line;
-			bFirstRow = false;
+			FillFloorColumns(Family, Argument, SecondsPerCall, Row);
+			Out << FormatTableRow(Row) << "\n";
 		}
 	}
 
@@ -187,10 +219,8 @@ namespace VLMRBench
 		std::ostream& Out = GetOutputStream();
 		Out << "\nPer-call costs: CPU time per call (median of the repetitions), from batches of calls made in one Lua loop\n"
 			<< "(the C++ rows: one call per iteration from C++); a ratio compares with the floor at the same N\n";
-		char Header[320];
-		std::snprintf(Header, sizeof(Header), "%-44s %6s %11s %15s  %-30s %7s %-13s %-20s %5s\n", "call", "N", "per call", "per unit", "floor",
-			"ratio", "target", "fit (per call)", "RMS");
-		Out << Header << std::string(std::string(Header).size() - 1, '-') << "\n";
+		const std::string Header = FormatTableRow({ "call", "N", "per call", "per unit", "floor", "ratio", "target", "fit (per call)", "RMS" });
+		Out << Header << "\n" << std::string(Header.size(), '-') << "\n";
 		for (const FCostFamily& Family : GetCostFamilies())
 		{
 			const auto Results = Families.find(Family.Name);

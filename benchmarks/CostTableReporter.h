@@ -11,6 +11,9 @@
 
 namespace VLMRBench
 {
+	struct FCostFamily;
+	struct FTableRow;
+
 	class FCostTableReporter : public benchmark::ConsoleReporter
 	{
 	public:
@@ -42,7 +45,9 @@ namespace VLMRBench
 		};
 
 		void Collect(const Run& Report);
-		void PrintFamily(const struct FCostFamily& Family, const FFamilyResults& Results);
+		void PrintFamily(const FCostFamily& Family, const FFamilyResults& Results) const;
+		// The floor, ratio and target columns of a call compared with its floor at the same argument; left empty without one.
+		void FillFloorColumns(const FCostFamily& Family, int64_t Argument, double SecondsPerCall, FTableRow& OutRow) const;
 		const FMeasuredCall* FindFloorCall(const std::string& Floor, int64_t Argument) const;
 
 		std::map<std::string, FFamilyResults> Families;
