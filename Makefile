@@ -28,6 +28,8 @@ test-versions: bootstrap
 example: build
 	@build/default/bin/vlmr run $(EXAMPLE)
 
+# The Release build's benchmarks (about a minute and a half); the run ends with one table of per-call CPU costs, each
+# against its floor measured in the same run, with each call's fitted complexity.
 bench: bootstrap
 	@cmake --preset release >/dev/null
 	@cmake --build --preset release -j $(JOBS)
