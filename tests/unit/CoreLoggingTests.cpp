@@ -1,3 +1,5 @@
+#include "CapturedLogTestSupport.h"
+
 #include "CoreMinimal.h"
 #include "Misc/FeedbackContext.h"
 #include "Misc/OutputDeviceRedirector.h"
@@ -12,21 +14,6 @@ DEFINE_LOG_CATEGORY_STATIC(LogCoreLoggingCompiledOut, Log, Warning);
 
 namespace
 {
-	/** Records every line GLog sends it while it is registered. */
-	class FCapturedLog final : public FOutputDevice
-	{
-	public:
-		FCapturedLog() { GLog->AddOutputDevice(this); }
-		virtual ~FCapturedLog() override { GLog->RemoveOutputDevice(this); }
-
-		virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
-		{
-			Lines.Add(FOutputDeviceHelper::FormatLogLine(Verbosity, Category, V));
-		}
-
-		TArray<FString> Lines;
-	};
-
 	bool EnsureAtOneCallSite(bool bCondition)
 	{
 		return ensureMsgf(bCondition, TEXT("value was %d"), bCondition ? 1 : 0);

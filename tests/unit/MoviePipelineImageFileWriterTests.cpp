@@ -1,4 +1,5 @@
 // The stand-in's frame images, read back with the reading side of the libraries that wrote them.
+#include "CapturedLogTestSupport.h"
 #include "ImageDecodeTestSupport.h"
 
 #include "CoreMinimal.h"
@@ -36,21 +37,6 @@ namespace
 		}
 		testing::Test::RecordProperty("WorstError", std::to_string(WorstError));
 	}
-
-	// Records every line GLog sends it while it is registered.
-	class FCapturedLog final : public FOutputDevice
-	{
-	public:
-		FCapturedLog() { GLog->AddOutputDevice(this); }
-		virtual ~FCapturedLog() override { GLog->RemoveOutputDevice(this); }
-
-		virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
-		{
-			Lines.Add(FOutputDeviceHelper::FormatLogLine(Verbosity, Category, V));
-		}
-
-		TArray<FString> Lines;
-	};
 }
 
 TEST(MoviePipelineImageFileWriter, PngReadsBackLosslessly)
