@@ -10,7 +10,7 @@ SOL_SHA="6c263e958a6e33cc9d287ba5ac9bd7e617a40851f571a0805e5ac5f37c715232"
 CONFIG_SHA="6c283673a16f0eeb3c56f8b8d72ccf7ed3f048816dbd2584ac58564c61315f02"
 PACKAGES=(g++ cmake ninja-build ccache make liblua5.4-dev libgtest-dev libgmock-dev googletest
 	libbenchmark-dev nlohmann-json3-dev libclang-rt-14-dev ca-certificates dpkg
-	libpng-dev libjpeg-dev libopenexr-dev libstb-dev)
+	libpng-dev libjpeg-dev libopenexr-dev libstb-dev libicu-dev)
 
 die() { echo "bootstrap: $*" >&2; exit 1; }
 

@@ -90,27 +90,54 @@ TEST(AutomationExpectedMessageTests, ExactComparisonNeedsTheWholeLine)
 	EXPECT_STREQ(EAutomationExpectedErrorFlags::ToString(EAutomationExpectedErrorFlags::Exact), TEXT("Exact"));
 }
 
-TEST(AutomationExpectedMessageTests, PatternsOutsideTheSupportedSyntaxMatchNothing)
+TEST(AutomationExpectedMessageTests, CaseFoldingCoversAllOfUnicode)
 {
-	const TCHAR* const Rejected[] = {
-		TEXT("("), TEXT(")"), TEXT("(a"), TEXT("a)"), TEXT("["), TEXT("[a"), TEXT("[]"), TEXT("[^]"), TEXT("[z-a]"), TEXT("[\\d-z]"),
-		TEXT("[a-z-0]"), TEXT("[[:alpha:]]"), TEXT("*a"), TEXT("a**"), TEXT("a*?+"), TEXT("+"), TEXT("?"), TEXT("a{"), TEXT("a{2"), TEXT("a{3,2}"),
-		TEXT("a{1001}"), TEXT("{2}"), TEXT("}"), TEXT("]"), TEXT("^*"), TEXT("\\b+"), TEXT("(?=a)*"), TEXT("(?<a>b)"), TEXT("(?i)a"), TEXT("\\"),
-		TEXT("a\\"), TEXT("\\1(a)"), TEXT("(a\\1)"), TEXT("\\q"), TEXT("\\x4"), TEXT("\\u12"), TEXT("\\cA"), TEXT("\\0"), TEXT("a|*"), TEXT("(|+)"),
-		TEXT("(a{1000}){1000}"), TEXT("((a{50}){50}){50}"),
+	EXPECT_TRUE(MatchesOnce(TEXT("straße"), TEXT("STRASSE"))) << "full case folding: one letter against two";
+	EXPECT_TRUE(MatchesOnce(TEXT("ς"), TEXT("Σ")));
+	EXPECT_TRUE(MatchesOnce(TEXT("Ärger"), TEXT("ärger"), EAutomationExpectedMessageFlags::Exact));
+	EXPECT_TRUE(MatchesOnce(TEXT("[a-z]+x"), TEXT("ABCX"))) << "ranges fold too";
+	EXPECT_FALSE(MatchesOnce(TEXT("straße"), TEXT("STRASE")));
+}
+
+TEST(AutomationExpectedMessageTests, IcuSyntaxBeyondEcmaScript)
+{
+	EXPECT_TRUE(MatchesOnce(TEXT("(?<word>b)\\k<word>"), TEXT("xbb"))) << "named groups and their back-references";
+	EXPECT_TRUE(MatchesOnce(TEXT("frame [[:digit:]]{3}"), TEXT("frame 042")));
+	EXPECT_TRUE(MatchesOnce(TEXT("^\\p{L}+ \\d$"), TEXT("Kamera 2")));
+	EXPECT_TRUE(MatchesOnce(TEXT("a]"), TEXT("a]"))) << "a lone closing bracket is a literal";
+	EXPECT_FALSE(MatchesOnce(TEXT("\\1(a)"), TEXT("a"))) << "a back-reference to a group not yet matched fails";
+}
+
+TEST(AutomationExpectedMessageTests, InvalidPatternsMatchNothing)
+{
+	const TCHAR* const Invalid[] = {
+		TEXT("("), TEXT("(a"), TEXT("a)"), TEXT("["), TEXT("[]"), TEXT("[z-a]"), TEXT("*a"), TEXT("a**"), TEXT("a{"), TEXT("a{3,2}"),
+		TEXT("}"), TEXT("\\"), TEXT("(?<a"), TEXT("\\x{110000}"),
 	};
 
-	for (const TCHAR* Pattern : Rejected)
+	for (const TCHAR* Pattern : Invalid)
 	{
 		EXPECT_FALSE(MatchesOnce(Pattern, Pattern)) << "pattern of length " << FString(Pattern).Len();
-		EXPECT_FALSE(MatchesOnce(Pattern, TEXT("a aa ab 0 z [a]")));
+		EXPECT_FALSE(MatchesOnce(Pattern, TEXT("a aa ab 0 z [a] {}"), EAutomationExpectedMessageFlags::Exact));
 	}
 
-	FString Long = FString::ChrN(1025, TEXT('a'));
-	EXPECT_FALSE(MatchesOnce(*Long, *Long)) << "over-long patterns are refused";
-	EXPECT_TRUE(MatchesOnce(TEXT("[\\]]"), TEXT("]"))) << "an escaped bracket is an ordinary member";
-	EXPECT_TRUE(MatchesOnce(TEXT("a|"), TEXT("b"))) << "an empty alternative matches the empty string";
-	EXPECT_TRUE(MatchesOnce(TEXT("^a{1000}$"), *FString::ChrN(1000, TEXT('a')))) << "a long repetition is fine on its own";
+	FAutomationExpectedMessage Refused(TEXT("("), ELogVerbosity::Warning, EAutomationExpectedMessageFlags::Contains);
+	EXPECT_TRUE(Refused.IsRegex()) << "a refused pattern is still a regular expression, one that matches nothing";
+	EXPECT_TRUE(MatchesOnce(TEXT("("), TEXT("a (b"), EAutomationExpectedMessageFlags::Contains, false)) << "as plain text it is contained";
+}
+
+TEST(AutomationExpectedMessageTests, HostilePatternsEndWithoutAMatch)
+{
+	const FString Exponential = FString::ChrN(40, TEXT('a')) + TEXT("!");
+	EXPECT_FALSE(MatchesOnce(TEXT("(a+)+b"), *Exponential)) << "the search gives up after its step limit";
+	EXPECT_TRUE(MatchesOnce(TEXT("(a+)+b"), TEXT("aaab")));
+
+	const FString LongLine = FString::ChrN(200000, TEXT('a')) + TEXT("c");
+	EXPECT_FALSE(MatchesOnce(TEXT("(?:a|b)*c"), *LongLine)) << "the search gives up when its backtracking memory is spent";
+	EXPECT_TRUE(MatchesOnce(TEXT("(?:a|b)*c"), *(FString::ChrN(1000, TEXT('a')) + TEXT("c"))));
+
+	const FString DeeplyNested = FString::ChrN(100000, TEXT('(')) + TEXT("a") + FString::ChrN(100000, TEXT(')'));
+	EXPECT_FALSE(MatchesOnce(*DeeplyNested, TEXT("b")));
 }
 
 TEST(AutomationExpectedMessageTests, ExpectedMessagesDeclaredByATest)

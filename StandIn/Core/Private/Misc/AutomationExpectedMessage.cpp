@@ -1,31 +1,31 @@
 #include "Misc/AutomationTest.h"
 
-#include "Misc/RegexPatternValidator.h"
-
-#include <regex>
-#include <string>
-
 namespace
 {
-	/** Case-insensitive ECMAScript search; a pattern std::regex would reject matches nothing. */
-	bool RegexSearchIgnoreCase(const FString& Pattern, const FString& Text)
+	TOptional<FRegexPattern> MakeMessageRegex(const FString& Pattern, EAutomationExpectedMessageFlags::MatchType CompareType)
 	{
-		if (!UE::Core::Private::IsSupportedRegexPattern(*Pattern, Pattern.Len()))
-		{
-			return false;
-		}
-		const std::wregex Expression(std::wstring(*Pattern, Pattern.Len()), std::regex_constants::ECMAScript | std::regex_constants::icase);
-		return std::regex_search(std::wstring(*Text, Text.Len()), Expression);
+		const FString Anchored = CompareType == EAutomationExpectedMessageFlags::Exact ? FString::Printf(TEXT("^%s$"), *Pattern) : Pattern;
+		return FRegexPattern(Anchored, ERegexPatternFlags::CaseInsensitive);
 	}
+}
+
+FAutomationExpectedMessage::FAutomationExpectedMessage(const FString& InMessagePattern, ELogVerbosity::Type InVerbosity, EAutomationExpectedMessageFlags::MatchType InCompareType, int32 InExpectedNumberOfOccurrences, bool bInIsRegex)
+	: MessagePatternString(InMessagePattern)
+	, MessagePatternRegex(bInIsRegex ? MakeMessageRegex(InMessagePattern, InCompareType) : TOptional<FRegexPattern>())
+	, CompareType(InCompareType)
+	, ExpectedNumberOfOccurrences(InExpectedNumberOfOccurrences)
+	, ActualNumberOfOccurrences(0)
+	, Verbosity(InVerbosity)
+{
 }
 
 bool FAutomationExpectedMessage::Matches(const FString& Message)
 {
 	bool bHasMatch = false;
-	if (bIsRegex)
+	if (MessagePatternRegex.IsSet())
 	{
-		const FString Pattern = IsExactCompareType() ? FString::Printf(TEXT("^%s$"), *MessagePatternString) : MessagePatternString;
-		bHasMatch = RegexSearchIgnoreCase(Pattern, Message);
+		FRegexMatcher Matcher(MessagePatternRegex.GetValue(), Message);
+		bHasMatch = Matcher.FindNext();
 	}
 	else
 	{

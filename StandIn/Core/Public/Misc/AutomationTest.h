@@ -6,6 +6,7 @@
 #include "Containers/Array.h"
 #include "Containers/Map.h"
 #include "Containers/UnrealString.h"
+#include "Internationalization/Regex.h"
 #include "Internationalization/Text.h"
 #include "Logging/LogVerbosity.h"
 #include "Math/Color.h"
@@ -13,6 +14,7 @@
 #include "Misc/AutomationEvent.h"
 #include "Misc/DateTime.h"
 #include "Misc/Guid.h"
+#include "Misc/Optional.h"
 #include "Misc/OutputDevice.h"
 #include "Misc/Timespan.h"
 #include "Misc/EngineVersionComparison.h"
@@ -204,6 +206,10 @@ struct FAutomationExpectedMessage
 {
 	/** The pattern as given; a regular expression unless the message was added as plain text. */
 	FString MessagePatternString;
+
+	/** The case-insensitive expression built from MessagePatternString, anchored at both ends for Exact; unset for plain text. */
+	TOptional<FRegexPattern> MessagePatternRegex;
+
 	EAutomationExpectedMessageFlags::MatchType CompareType;
 
 	/** > 0: must be seen exactly this often; 0: at least once (all occurrences suppressed); < 0: ignored. */
@@ -213,31 +219,20 @@ struct FAutomationExpectedMessage
 	/** The least severe verbosity matched: Warning matches warnings and errors. */
 	ELogVerbosity::Type Verbosity;
 
-	FAutomationExpectedMessage(const FString& InMessagePattern, ELogVerbosity::Type InVerbosity, EAutomationExpectedMessageFlags::MatchType InCompareType, int32 InExpectedNumberOfOccurrences = 1, bool bInIsRegex = true)
-		: MessagePatternString(InMessagePattern)
-		, CompareType(InCompareType)
-		, ExpectedNumberOfOccurrences(InExpectedNumberOfOccurrences)
-		, ActualNumberOfOccurrences(0)
-		, Verbosity(InVerbosity)
-		, bIsRegex(bInIsRegex)
-	{
-	}
+	CORE_API FAutomationExpectedMessage(const FString& InMessagePattern, ELogVerbosity::Type InVerbosity, EAutomationExpectedMessageFlags::MatchType InCompareType, int32 InExpectedNumberOfOccurrences = 1, bool bInIsRegex = true);
 
-	bool IsRegex() const { return bIsRegex; }
+	bool IsRegex() const { return MessagePatternRegex.IsSet(); }
 	bool IsExactCompareType() const { return CompareType == EAutomationExpectedMessageFlags::Exact; }
 
 	/**
-	 * Case-insensitive match; counts the occurrence when it matches. A regular expression (ECMAScript) must match
-	 * somewhere, or the whole line for Exact; plain text must be contained, or equal the line for Exact.
-	 * Stand-in choice: a regular expression outside the syntax std::regex accepts never matches.
+	 * Case-insensitive match; counts the occurrence when it matches. A regular expression must match somewhere, or
+	 * the whole line for Exact; plain text must be contained, or equal the line for Exact. A regular expression ICU
+	 * refuses never matches.
 	 */
 	CORE_API bool Matches(const FString& Message);
 
 	bool operator==(const FAutomationExpectedMessage& Other) const { return MessagePatternString == Other.MessagePatternString; }
 	bool operator<(const FAutomationExpectedMessage& Other) const { return MessagePatternString < Other.MessagePatternString; }
-
-private:
-	bool bIsRegex;
 };
 
 /** The framework that registers automation tests and runs them, capturing what they log. */
