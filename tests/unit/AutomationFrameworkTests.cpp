@@ -176,7 +176,7 @@ bool FCoreSelfTestAssertionTexts::RunTest(const FString& Parameters)
 	TestNull(TEXT("pointer"), &Value);
 	TestNotNull(TEXT("missing"), (int32*)nullptr);
 	TestValid(TEXT("shared"), TSharedPtr<int32>());
-	TestEqual(TEXT("enum"), EGuidFormats::Short, EGuidFormats::Digits);
+	TestEqual(TEXT("enum"), EGuidFormats::DigitsWithHyphens, EGuidFormats::Digits);
 	TestEqual(TEXT("fname"), FName(TEXT("Alpha")), FName(TEXT("Beta")));
 	TestLessThan(TEXT("lower"), 5, 3);
 	TestNotEqual(TEXT("close"), 1.0, 1.00001);

@@ -177,16 +177,6 @@ namespace
 			return FileExists(Filename) && access((const char*)Converted.Get(), W_OK) != 0;
 		}
 
-		virtual FDateTime GetTimeStamp(const TCHAR* Filename) override
-		{
-			struct stat FileInfo;
-			if (IsEmptyPath(Filename) || stat(ToPath(Filename).c_str(), &FileInfo) != 0)
-			{
-				return FDateTime::MinValue();
-			}
-			return FDateTime::FromUnixTimestampDecimal((double)FileInfo.st_mtim.tv_sec + (double)FileInfo.st_mtim.tv_nsec * 1e-9);
-		}
-
 		virtual void FindFiles(TArray<FString>& FileNames, const TCHAR* Filename, bool Files, bool Directories) override
 		{
 			if (IsEmptyPath(Filename))

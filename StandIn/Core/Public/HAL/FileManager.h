@@ -4,7 +4,6 @@
 #include "CoreTypes.h"
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
-#include "Misc/DateTime.h"
 
 enum ECopyResult
 {
@@ -33,8 +32,6 @@ public:
 	/** Size in bytes, or -1 when the file does not exist. */
 	virtual int64 FileSize(const TCHAR* Filename) = 0;
 	virtual bool IsReadOnly(const TCHAR* Filename) = 0;
-	/** Last modification time (UTC), or FDateTime::MinValue() when the file does not exist. */
-	virtual FDateTime GetTimeStamp(const TCHAR* Filename) = 0;
 
 	/** Names (without path) of the entries matching a wildcard path (directory, then a file pattern with * and ?). */
 	virtual void FindFiles(TArray<FString>& FileNames, const TCHAR* Filename, bool Files, bool Directories) = 0;

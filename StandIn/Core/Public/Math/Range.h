@@ -3,7 +3,6 @@
 
 #include "CoreTypes.h"
 #include "Math/RangeBound.h"
-#include "Misc/DateTime.h"
 #include "Misc/FrameNumber.h"
 #include "Templates/TypeHash.h"
 
@@ -223,23 +222,3 @@ private:
 	BoundsType UpperBound;
 };
 
-#define UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(Name, ElementType) \
-	struct Name : TRange<ElementType> \
-	{ \
-		Name() = default; \
-		Name(const TRange<ElementType>& Other) : TRange<ElementType>(Other) {} \
-		explicit Name(const ElementType& A) : TRange<ElementType>(A) {} \
-		explicit Name(const ElementType& A, const ElementType& B) : TRange<ElementType>(A, B) {} \
-		explicit Name(const TRangeBound<ElementType>& A, const TRangeBound<ElementType>& B) : TRange<ElementType>(A, B) {} \
-	};
-
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FDateRange, FDateTime)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FDoubleRange, double)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FFloatRange, float)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FInt8Range, int8)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FInt16Range, int16)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FInt32Range, int32)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FInt64Range, int64)
-UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT(FFrameNumberRange, FFrameNumber)
-
-#undef UE_STANDIN_DEFINE_RANGE_WRAPPER_STRUCT

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "CoreTypes.h"
-#include "Misc/DateTime.h"
 #include "Misc/FrameNumber.h"
 #include "Templates/TypeHash.h"
 
@@ -156,21 +155,3 @@ private:
 	ElementType Value;
 };
 
-#define UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(Name, ElementType) \
-	struct Name : TRangeBound<ElementType> \
-	{ \
-		Name() = default; \
-		Name(const TRangeBound<ElementType>& Other) : TRangeBound<ElementType>(Other) {} \
-		Name(const ElementType& InValue) : TRangeBound<ElementType>(InValue) {} \
-	};
-
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FDateRangeBound, FDateTime)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FDoubleRangeBound, double)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FFloatRangeBound, float)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FInt8RangeBound, int8)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FInt16RangeBound, int16)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FInt32RangeBound, int32)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FInt64RangeBound, int64)
-UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT(FFrameNumberRangeBound, FFrameNumber)
-
-#undef UE_STANDIN_DEFINE_RANGEBOUND_WRAPPER_STRUCT

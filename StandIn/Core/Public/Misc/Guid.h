@@ -7,37 +7,14 @@
 class FOutputDevice;
 class UObject;
 
+/** Stand-in choice: only the text formats the stand-in and the module write are offered. */
 enum class EGuidFormats
 {
 	/** 32 upper-case hexadecimal digits: "00000000000000000000000000000000". */
 	Digits,
 
-	/** 32 lower-case hexadecimal digits: "0123abc456def789abcd123ef4a5b6c7". */
-	DigitsLower,
-
 	/** Upper-case digits separated by hyphens: "00000000-0000-0000-0000-000000000000". */
 	DigitsWithHyphens,
-
-	/** Lower-case digits separated by hyphens, as in RFC 4122: "bd048ce3-358b-46c5-8cee-627c719418f8". */
-	DigitsWithHyphensLower,
-
-	/** "{00000000-0000-0000-0000-000000000000}". */
-	DigitsWithHyphensInBraces,
-
-	/** "(00000000-0000-0000-0000-000000000000)". */
-	DigitsWithHyphensInParentheses,
-
-	/** "{0x00000000,0x0000,0x0000,{0x00,0x00,0x00,0x00,0x00,0x00,0x00,0x00}}". */
-	HexValuesInBraces,
-
-	/** The FUniqueObjectGuid form: "00000000-00000000-00000000-00000000". */
-	UniqueObjectGuid,
-
-	/** 22 base64 characters with '-' and '_' in place of '+' and '/', no padding: "AQsMCQ0PAAUKCgQEBAgADQ". */
-	Short,
-
-	/** 25 base-36 characters (0-9, A-Z), safe on case-insensitive file systems: "1DPF6ARFCM4XH5RMWPU8TGR0J". */
-	Base36Encoded,
 };
 
 struct FGuid
@@ -57,16 +34,6 @@ public:
 		, C(InC)
 		, D(InD)
 	{
-	}
-
-	/** Parses any of the formats Parse accepts; an unparsable string gives the invalid (all-zero) GUID. */
-	explicit FGuid(const FString& InGuidStr)
-		: FGuid()
-	{
-		if (!Parse(InGuidStr, *this))
-		{
-			Invalidate();
-		}
 	}
 
 public:
@@ -106,16 +73,6 @@ public:
 		return const_cast<FGuid&>(*this)[Index];
 	}
 
-	friend FString LexToString(const FGuid& Value)
-	{
-		return Value.ToString();
-	}
-
-	friend void LexFromString(FGuid& Result, const TCHAR* String)
-	{
-		FGuid::Parse(String, Result);
-	}
-
 public:
 	/** Text export writes the Digits format. */
 	CORE_API bool ExportTextItem(FString& ValueStr, FGuid const& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
@@ -147,16 +104,8 @@ public:
 	/** A new random GUID; never the invalid all-zero value. */
 	CORE_API static FGuid NewGuid();
 
-	/** A GUID combining the two given ones. */
-	CORE_API static FGuid Combine(const FGuid& GuidA, const FGuid& GuidB);
-
-	/** Recognizes the format from the length (32, 36, 38, 68, 35, 22 or 25 characters) and parses it. */
-	CORE_API static bool Parse(const FString& GuidString, FGuid& OutGuid);
-	CORE_API static bool Parse(const TCHAR* GuidString, FGuid& OutGuid);
-
-	/** Parses the given format only; the hexadecimal formats accept either case. */
+	/** Parses the given format only; hexadecimal digits of either case. Stand-in choice: only Digits parses. */
 	CORE_API static bool ParseExact(const FString& GuidString, EGuidFormats Format, FGuid& OutGuid);
-	CORE_API static bool ParseExact(const TCHAR* GuidString, EGuidFormats Format, FGuid& OutGuid);
 
 public:
 	uint32 A;
