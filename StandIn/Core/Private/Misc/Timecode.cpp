@@ -120,15 +120,6 @@ FFrameNumber FTimecode::ToFrameNumber(const FFrameRate& InFrameRate) const
 	return FFrameNumber(ClampToInt32(TotalFrames));
 }
 
-FTimespan FTimecode::ToTimespan(const FFrameRate& InFrameRate) const
-{
-	const FFrameNumber FrameNumber = ToFrameNumber(InFrameRate);
-	const double NumberOfSeconds = bDropFrameFormat
-		? FrameNumber.Value * InFrameRate.AsInterval()
-		: double(FrameNumber.Value) / std::round(InFrameRate.AsDecimal());
-	return FTimespan::FromSeconds(NumberOfSeconds);
-}
-
 FTimecode FTimecode::FromFrameNumber(const FFrameNumber& InFrameNumber, const FFrameRate& InFrameRate, bool InbDropFrame)
 {
 	const int32 NominalFramesPerSecond = GetNominalFramesPerSecond(InFrameRate);

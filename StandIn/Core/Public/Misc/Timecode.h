@@ -64,8 +64,6 @@ public:
 #endif
 	}
 
-	CORE_API FTimespan ToTimespan(const FFrameRate& InFrameRate) const;
-
 	/** InbDropFrame is only meaningful for 29.97 and 59.94 fps; any rate can be shown without drop frames. */
 	CORE_API static FTimecode FromFrameNumber(const FFrameNumber& InFrameNumber, const FFrameRate& InFrameRate, bool InbDropFrame);
 
@@ -87,16 +85,6 @@ public:
 	static FTimecode FromFrameTime(const FFrameTime& InFrameTime, const FFrameRate& InFrameRate)
 	{
 		return FromFrameTime(InFrameTime, InFrameRate, UseDropFormatTimecode(InFrameRate));
-	}
-
-	static FTimecode FromTimespan(const FTimespan& InTimespan, const FFrameRate& InFrameRate, bool InbDropFrame, bool InbRollover)
-	{
-		return FTimecode(InTimespan.GetTotalSeconds(), InFrameRate, InbDropFrame, InbRollover);
-	}
-
-	static FTimecode FromTimespan(const FTimespan& InTimespan, const FFrameRate& InFrameRate, bool InbRollover)
-	{
-		return FTimecode(InTimespan.GetTotalSeconds(), InFrameRate, UseDropFormatTimecode(InFrameRate), InbRollover);
 	}
 
 	/** Drop-frame format exists only for 29.97 (30000/1001) and 59.94 (60000/1001) fps. */
