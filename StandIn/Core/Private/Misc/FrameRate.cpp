@@ -37,22 +37,6 @@ FFrameTime FFrameRate::AsFrameTime(double InTimeSeconds) const
 	return SplitDecimalFrame(InTimeSeconds * Numerator / Denominator);
 }
 
-FFrameNumber FFrameRate::AsFrameNumber(double InTimeSeconds) const
-{
-	if (!IsValid())
-	{
-		return FFrameNumber();
-	}
-	return SplitDecimalFrame(InTimeSeconds * Numerator / Denominator).GetFrame();
-}
-
-bool FFrameRate::IsMultipleOf(FFrameRate Other) const
-{
-	const int64 CommonValueA = int64(Numerator) * Other.Denominator;
-	const int64 CommonValueB = int64(Other.Numerator) * Denominator;
-	return CommonValueA != 0 && CommonValueA <= CommonValueB && CommonValueB % CommonValueA == 0;
-}
-
 FFrameTime FFrameRate::TransformTime(FFrameTime SourceTime, FFrameRate SourceRate, FFrameRate DestinationRate)
 {
 	if (SourceRate == DestinationRate)

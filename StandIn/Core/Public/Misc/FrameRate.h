@@ -52,31 +52,14 @@ struct FFrameRate
 	 */
 	CORE_API FFrameTime AsFrameTime(double InTimeSeconds) const;
 
-	/** The frame number at the given number of seconds, rounded down. */
-	CORE_API FFrameNumber AsFrameNumber(double InTimeSeconds) const;
-
-	/** True when Other's rate is a whole multiple of this rate (the engine's argument order: 24 fps IsMultipleOf 48 fps). */
-	CORE_API bool IsMultipleOf(FFrameRate Other) const;
-
-	/** True when this rate is a whole multiple of Other's rate. */
-	bool IsFactorOf(FFrameRate Other) const { return Other.IsMultipleOf(*this); }
-
 	/**
 	 * Converts a time from one rate to another, keeping integer precision for the whole frames; saturates at the int32 range.
 	 * Stand-in choice: a zero rate gives frame 0 rather than a division by zero.
 	 */
 	CORE_API static FFrameTime TransformTime(FFrameTime SourceTime, FFrameRate SourceRate, FFrameRate DestinationRate);
 
-	/** Rounds a time to the nearest frame of another rate, expressed back in the source rate. */
-	static FFrameTime Snap(FFrameTime SourceTime, FFrameRate SourceRate, FFrameRate SnapToRate)
-	{
-		return TransformTime(TransformTime(SourceTime, SourceRate, SnapToRate).RoundToFrame(), SnapToRate, SourceRate);
-	}
-
 	/** The largest number of seconds a frame number can express at this rate. */
 	double MaxSeconds() const { return double(MAX_int32) / AsDecimal(); }
-
-	FFrameRate Reciprocal() const { return FFrameRate(Denominator, Numerator); }
 
 	friend bool operator==(const FFrameRate& A, const FFrameRate& B) { return A.Numerator == B.Numerator && A.Denominator == B.Denominator; }
 	friend bool operator!=(const FFrameRate& A, const FFrameRate& B) { return !(A == B); }

@@ -54,9 +54,6 @@ public:
 	/** The first frame number less than or equal to this time. */
 	FFrameNumber FloorToFrame() const { return FrameNumber; }
 
-	/** The first frame number greater than or equal to this time. */
-	FFrameNumber CeilToFrame() const { return SubFrame == 0.f ? FrameNumber : FrameNumber + 1; }
-
 	FFrameNumber RoundToFrame() const { return SubFrame < .5f ? FrameNumber : FrameNumber + 1; }
 
 	/** Frame number plus sub-frame: -10 with sub-frame 0.25 gives -9.75. */
