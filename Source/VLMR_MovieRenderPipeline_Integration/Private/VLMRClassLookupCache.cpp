@@ -3,6 +3,16 @@
 #include "UObject/Class.h"
 #include "UObject/UObjectHash.h"
 
+// The engine's counter of every registered class, Blueprint ones included, is declared by UObjectHash.h in the
+// editors we know of, and a call prefers it to this template. An editor without it calls this one instead: a new
+// number on every call, so that no entry outlives the lookup that built it and lookups stay right, only uncached.
+template<typename... TArgs>
+static uint64 GetRegisteredClassesVersionNumber(TArgs...)
+{
+	static uint64 CallCount = 0;
+	return ++CallCount;
+}
+
 namespace VLMR
 {
 	static FClassLookupCache* ModuleCache = nullptr;
