@@ -51,4 +51,13 @@ editor.clear_log()
 check.eq(first:info(), nil, "old handle")
 check.lines({ "[FAIL] info -> job no longer valid" }, "old handle line")
 
+-- A map path is stored exactly as given; one with spaces, commas or brackets comes back whole from the saved file.
+mrq_delete_all_jobs()
+local odd_map = "Maps/Night shot, take (2)"
+mrq_add_job("Seq/Shot010"):set_map(odd_map)
+check.eq(mrq_save_queue("Queues/OddMap"), true, "saved with an odd map path")
+editor.unload_package("/Game/Queues/OddMap")
+check.eq(mrq_load_queue("Queues/OddMap"), true, "loaded from the file")
+check.eq(mrq_get_job(1):info().map, odd_map, "the map path read back")
+
 check.summary()

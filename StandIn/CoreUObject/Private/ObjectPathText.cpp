@@ -92,9 +92,24 @@ namespace UE::CoreUObject::Private
 		return Cursor;
 	}
 
+	// Stand-in choice: a path the token reader would cut short (a space, a comma, a quote...) is written quoted even
+	// when the text is not delimited. The engine writes it as it is, but it saves packages in binary; the stand-in saves
+	// them as property text, and such a path must come back whole when the package is loaded.
+	static bool IsReadableAsPathToken(const FString& Path)
+	{
+		for (TCHAR Character : Path)
+		{
+			if (!IsPathTokenCharacter(Character))
+			{
+				return false;
+			}
+		}
+		return true;
+	}
+
 	void AppendPathText(FString& ValueStr, const FString& Path, bool bDelimited)
 	{
-		if (!bDelimited)
+		if (!bDelimited && IsReadableAsPathToken(Path))
 		{
 			ValueStr += Path;
 			return;

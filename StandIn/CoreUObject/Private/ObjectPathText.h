@@ -17,6 +17,6 @@ namespace UE::CoreUObject::Private
 	 */
 	const TCHAR* ReadObjectPathText(const TCHAR* Buffer, FString& OutPath);
 
-	/** Appends the path, quoted with escapes when the text is delimited (inside a struct or container). */
+	/** Appends the path, quoted with escapes when the text is delimited (inside a struct or container) or when the path is no single token. */
 	void AppendPathText(FString& ValueStr, const FString& Path, bool bDelimited);
 }
