@@ -1,7 +1,6 @@
 // The job handle: edits one job of the editor queue, its legacy configuration's settings and its presets.
 #include "Graph/MovieGraphConfig.h"
 #include "LuaSessionData.h"
-#include "Misc/PackageName.h"
 #include "MoviePipelinePrimaryConfig.h"
 #include "MoviePipelineQueue.h"
 #include "MovieRenderQueueAccess.h"

@@ -23,7 +23,7 @@ namespace VLMR
 		{
 			return true;
 		}
-		// Matched by name: the reflected struct of FSoftObjectPath is reached differently across engine versions.
+		// Matched by the reflected struct's name, so that no struct needs looking up on every write.
 		static const FName SoftObjectPathName(TEXT("SoftObjectPath"));
 		static const FName SoftClassPathName(TEXT("SoftClassPath"));
 		const FStructProperty* StructProperty = CastField<FStructProperty>(&Property);
